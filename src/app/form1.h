@@ -1,0 +1,24 @@
+#pragma once
+
+#include "board/board.h"
+#include "platform/form.h"
+
+namespace tessoro {
+
+/// The main window: its controls, their places and looks as laid out before the program starts.
+class Form1 final : public platform::Form {
+ public:
+  Form1();
+
+  platform::Frame Frame1;
+  Board board;
+  platform::Label RightMess;
+  platform::Label CompMess;
+  Cell NewPuz;
+  Cell Solveit;
+
+  platform::MenuItem Gamex{"Puzzle"};
+  platform::MenuItem Exitx{"Exit"};
+};
+
+}  // namespace tessoro

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "app/form1.h"
+#include "board/puzzle_state.h"
+#include "board/start_up.h"
+#include "platform/desktop.h"
+#include "play/corner_check.h"
+#include "play/moves.h"
+#include "print/print_page.h"
+#include "rules/results.h"
+#include "solver/digits.h"
+#include "solver/solution_search.h"
+
+namespace tessoro {
+
+/// The whole game without the toolkit that shows it: the main window, the puzzle, and the groups
+/// of procedures that work on them, wired to the window's events.
+class Game {
+ public:
+  Game(platform::Desktop& desktop, Digits& digits);
+
+  Form1 form;
+  PuzzleState state;
+
+  Results results{form.board};
+  PrintPage page{form.board, state};
+  SolutionSearch search;
+  CornerCheck cornerCheck;
+  Moves moves;
+  StartUp startUp;
+
+ private:
+  void connectEvents();
+
+  platform::Desktop& desktop_;
+};
+
+}  // namespace tessoro

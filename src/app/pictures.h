@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/picture.h"
+
+namespace tessoro {
+
+/// A yellow smiling face with a black outline, black eyes and a red mouth: a corner is right.
+extern const platform::Picture smilingFace;
+
+/// A calculator: a light grey body, a cyan display, and a white keypad of 16 keys. The program's
+/// icon.
+extern const platform::Picture calculator;
+
+}  // namespace tessoro

@@ -1,0 +1,48 @@
+#include "board/start_up.h"
+
+namespace tessoro {
+
+void StartUp::Form_Load() {
+  CompMess_.Visible = false;
+  page_.InitPrintPage();
+  Solveit_.Visible = false;
+  board_.clear();
+  for (int cell = 0; cell < boardCells; ++cell) setRole(cell);
+  for (int k = 1; k <= 4; ++k) {
+    board_.GridDisp[CornerCells[k]].backcolor = ColGreen;
+    board_.GridDisp[CornerCells[k]].forecolor = ColWhite;
+  }
+  // The top left corner is a number of the puzzle, not one for the player to find.
+  board_.GridDisp[CornerCells[1]].enabled = false;
+  board_.SetCellTags();
+  search_.FindSolution();
+}
+
+void StartUp::setRole(int index) {
+  Cell& cell = board_.GridDisp[index];
+  switch (roleOf(index)) {
+    case CellRole::outerCorner:
+      cell.Visible = false;
+      cell.backcolor = ColGreen;
+      cell.forecolor = ColWhite;
+      cell.enabled = false;
+      break;
+    case CellRole::hole:
+      cell.backcolor = ColBlack;
+      cell.enabled = false;
+      break;
+    case CellRole::equals:
+    case CellRole::rowResult:
+    case CellRole::columnResult:
+    case CellRole::grandResult:
+      cell.enabled = false;
+      break;
+    case CellRole::number:
+    case CellRole::rowOperator:
+    case CellRole::columnOperator:
+    case CellRole::spare:
+      break;
+  }
+}
+
+}  // namespace tessoro

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "board/board.h"
+#include "board/puzzle_state.h"
+#include "platform/control.h"
+#include "platform/desktop.h"
+#include "print/print_page.h"
+#include "solver/solution_search.h"
+
+namespace tessoro {
+
+/// The main window's load and unload events: the life of the program from its first puzzle to its
+/// end.
+class StartUp {
+ public:
+  StartUp(Board& board, PrintPage& page, SolutionSearch& search, platform::Label& CompMess,
+          Cell& Solveit, platform::Desktop& desktop)
+      : board_(board),
+        page_(page),
+        search_(search),
+        CompMess_(CompMess),
+        Solveit_(Solveit),
+        desktop_(desktop) {}
+
+  /// Gives every cell its start-up look and role, and makes the first puzzle.
+  void Form_Load();
+  /// Ends the program at once.
+  void Form_Unload() { desktop_.endProgram(); }
+
+ private:
+  void setRole(int cell);
+
+  Board& board_;
+  PrintPage& page_;
+  SolutionSearch& search_;
+  platform::Label& CompMess_;
+  Cell& Solveit_;
+  platform::Desktop& desktop_;
+};
+
+}  // namespace tessoro

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "platform/control.h"
+
+namespace platform {
+
+enum class MouseButton : std::int16_t { left = 1, right = 2, middle = 4, other = 8 };
+
+/// A mouse button going down over a control: the button, the shift state (1 shift, 2 control,
+/// 4 alt, added up) and the point in twips from the control's top left.
+struct MousePress {
+  MouseButton button = MouseButton::left;
+  std::int16_t shift = 0;
+  double x = 0;
+  double y = 0;
+};
+
+/// A display cell: a short text in its own colours and border that reports mouse input.
+///
+/// The window that shows it passes every mouse press and release on; which of them become events
+/// is decided here, so a disabled or hidden cell is silent whatever shows it. A cell with a
+/// `click` handler is a button: it draws its caption greyed while disabled.
+class CellPane final : public Control {
+ public:
+  Property<std::string> caption{*this, ""};
+  Property<Colour> backcolor{*this, buttonFace};
+  Property<Colour> forecolor{*this, windowText};
+  Property<bool> enabled{*this, true};
+  /// Free text kept for the program.
+  Property<std::string> Tag{*this, ""};
+
+  // Fixed by the form's layout.
+  std::string font = "Arial";
+  double fontsize = 14.4;  // points
+  bool fontbold = true;
+  Colour bordertop = highlight3D;
+  Colour borderleft = highlight3D;
+  Colour borderright = shadow3D;
+  Colour borderbottom = shadow3D;
+  /// 0, the one style there is: the caption centred on the plain background.
+  std::int16_t drawstyle = 0;
+  /// What would lie behind a picture; no cell carries one.
+  Colour picback = buttonFace;
+
+  /// Any mouse button went down.
+  std::function<void(const MousePress&)> mouseDown;
+  /// The left button went down and came up again inside the cell.
+  std::function<void()> click;
+  /// The right button went down; the arguments are the shift state and the point.
+  std::function<void(std::int16_t shift, double x, double y)> contextMenu;
+
+  bool isButton() const { return static_cast<bool>(click); }
+
+  /// A mouse button went down on the cell.
+  void press(const MousePress& press);
+  /// The button that went down on the cell came up, inside the cell or not.
+  void release(MouseButton button, bool inside);
+
+ private:
+  bool takesInput() const { return Visible() && enabled(); }
+
+  bool armed_ = false;
+};
+
+}  // namespace platform

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/colour.h"
+#include "platform/picture.h"
+#include "platform/property.h"
+
+namespace platform {
+
+/// A rectangle in twips (1/1440 inch), measured from the top left of what holds the control: the
+/// frame around it, or else the form's client area.
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+/// A typeface by name, its size in points, and its weight.
+struct Font {
+  std::string name = "MS Sans Serif";
+  double points = 7.8;
+  bool bold = true;
+};
+
+/// What every control has: a place, given once when its form is laid out, and visibility.
+class Control : public Observable {
+ public:
+  Place place;
+  Property<bool> Visible{*this, true};
+
+ protected:
+  ~Control() = default;
+};
+
+/// One line of text, centred in its place.
+class Label final : public Control {
+ public:
+  Property<std::string> caption{*this, ""};
+  Colour backcolor = buttonFace;
+  Colour forecolor = windowText;
+  Font font;
+};
+
+/// A picture on the button-face colour, centred in its place and drawn without a border.
+class PictureBox final : public Control {
+ public:
+  const Picture* picture = nullptr;
+};
+
+class CellPane;
+struct Frame;
+
+using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*>;
+
+/// The controls that a form or a frame holds, from the one farthest back to the one in front.
+using Controls = std::vector<ControlRef>;
+
+/// An etched border without a caption around the controls it holds. It is always shown.
+struct Frame {
+  Place place;
+  Controls controls;
+};
+
+}  // namespace platform

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string_view>
+
+namespace platform {
+
+/// What the program asks of the desktop it runs on, besides showing its controls.
+class Desktop {
+ public:
+  enum class Buttons { ok, yesNo };
+  enum class Answer { ok, yes, no };
+
+  Desktop() = default;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+  virtual ~Desktop() = default;
+
+  /// Shows a modal message box without an icon, titled with the application's title, and returns
+  /// when the user has answered it. Closing the box answers `ok` or `no`.
+  virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
+
+  /// Lets the windows process their pending events; their handlers run inside the call.
+  virtual void yield() = 0;
+
+  /// The local time of day in seconds since midnight, with fractions: 0 <= t < 86400.
+  virtual double secondsSinceMidnight() = 0;
+
+  /// Ends the program at once: no further handler runs, and the windows close with it.
+  [[noreturn]] virtual void endProgram() = 0;
+};
+
+}  // namespace platform

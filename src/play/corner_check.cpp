@@ -1,0 +1,28 @@
+#include "play/corner_check.h"
+
+#include "board/captions.h"
+
+namespace tessoro {
+
+bool CornerCheck::isRight(int k) const {
+  return readNumber(board_.GridDisp[CornerCells[k]].caption()) ==
+         readNumber(state_.SolNumbers[cornerNumbers[k]]);
+}
+
+void CornerCheck::CheckCorners() {
+  state_.BoardLocked = false;
+  bool solved = true;
+  for (int k = 1; k <= 4; ++k) {
+    const bool right = isRight(k);
+    board_.GridDisp[OuterCornerCells[k]].Visible = !right;
+    board_.GridDisp[CornerCells[k]].backcolor = right ? ColGreen : ColBlack;
+    board_.NPict[k].Visible = right;
+    solved = solved && right;
+  }
+  if (!solved) return;
+  RightMess_.Visible = false;
+  state_.BoardLocked = true;
+  desktop_.messageBox("You got it !", platform::Desktop::Buttons::ok);
+}
+
+}  // namespace tessoro

@@ -1,0 +1,91 @@
+#include "play/moves.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "board/captions.h"
+
+namespace tessoro {
+namespace {
+
+/// Steps the cell's digit and returns it: upwards from 9 comes 1, downwards from 1 comes 9, and a
+/// cell without a digit counts as 0.
+std::int16_t stepDigit(Cell& cell, platform::MouseButton button) {
+  int digit = readNumber(cell.caption());
+  if (button == platform::MouseButton::right) {
+    digit = digit - 1 < 1 ? 9 : digit - 1;
+  } else {
+    digit = digit + 1 == 10 ? 1 : digit + 1;
+  }
+  cell.caption = numberText(digit);
+  return static_cast<std::int16_t>(digit);
+}
+
+std::string_view nextOperator(std::string_view text) {
+  if (text.empty() || text == OpTimes) return OpPlus;
+  if (text == OpPlus) return OpMinus;
+  if (text == OpMinus) return OpTimes;
+  return text;
+}
+
+/// The two lines that end in cell 49, as the codes of their operators name them.
+constexpr std::string_view resultsRowCode = "4300";
+constexpr std::string_view resultsColumnCode = "0007";
+
+}  // namespace
+
+void Moves::GridDisp_MouseDown(int Index, const platform::MousePress& press) {
+  if (Index > gridCells) return;
+  if (state_.SolveMode) {
+    inputCorner(Index, press.button);
+  } else {
+    play(Index, press.button);
+  }
+}
+
+void Moves::inputCorner(int index, platform::MouseButton button) {
+  Solveit_.enabled = true;
+  for (int k = 1; k <= 4; ++k) {
+    if (CornerCells[k] == index) {
+      state_.*cornerTargets[k] = stepDigit(board_.GridDisp[index], button);
+    }
+  }
+}
+
+void Moves::play(int index, platform::MouseButton button) {
+  if (state_.BoardLocked) return;
+  if (!board_.GridDisp[OuterCornerCells[1]].Visible()) makeFirstMove();
+  Cell& cell = board_.GridDisp[index];
+  if (cell.Tag().starts_with('X')) {
+    moveOperator(cell);
+  } else {
+    moveNumber(cell, button);
+  }
+  cornerCheck_.CheckCorners();
+}
+
+/// Every move but those on a board whose top left corner is wrong begins with this, since a right
+/// corner hides its outer corner cell.
+void Moves::makeFirstMove() {
+  board_.setOuterCornersVisible(true);
+  results_.updateAll();
+  RightMess_.Visible = true;
+}
+
+void Moves::moveNumber(Cell& cell, platform::MouseButton button) {
+  stepDigit(cell, button);
+  results_.UpdateLines(cell.Tag());
+  results_.UpdateCornerResult();
+}
+
+void Moves::moveOperator(Cell& cell) {
+  cell.caption = std::string(nextOperator(cell.caption()));
+  const std::string_view code = std::string_view(cell.Tag()).substr(1);
+  results_.UpdateLines(code);
+  // After a move on one of the two lines that end in cell 49, the cell shows that line's value.
+  if (code != resultsRowCode && code != resultsColumnCode) results_.UpdateCornerResult();
+}
+
+}  // namespace tessoro

@@ -1,0 +1,83 @@
+#include "print/print_page.h"
+
+#include <string_view>
+
+#include "board/captions.h"
+
+namespace tessoro {
+namespace {
+
+constexpr std::size_t lineWidth = 70;
+
+// The columns, counted from 1, at which the two grids of a slot begin.
+constexpr int puzzleGrid = 1;
+constexpr int solutionGrid = 40;
+
+constexpr std::string_view borderLine = "+---+---+---+---+---+---+---+";
+constexpr std::string_view cellLine = "|   |   |   |   |   |   |   |";
+constexpr std::string_view separatorLine = "|---|---|---|---|---|---|---|";
+constexpr std::string_view holeMark = "///";
+
+/// The index in its line of the first of a cell's three inner characters.
+constexpr std::size_t innerStart(int grid, int cell) {
+  return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
+}
+
+constexpr int lineOf(int heading, int cell) { return heading + 2 * rowOf(cell); }
+
+}  // namespace
+
+void PrintPage::InitPrintPage() {
+  // Line 1, the first heading, stays empty until there is a puzzle to name.
+  for (int line = 2; line <= 75; ++line) PrintLines[line].assign(lineWidth, ' ');
+  for (const int heading : headings) {
+    drawGrid(heading, puzzleGrid);
+    drawGrid(heading, solutionGrid);
+  }
+}
+
+void PrintPage::drawGrid(int heading, int grid) {
+  const auto overwrite = [&](int line, std::size_t at, std::string_view text) {
+    PrintLines[line].replace(at, text.size(), text);
+  };
+  const auto gridStart = static_cast<std::size_t>(grid - 1);
+  for (int line = 1; line <= 2 * gridSide + 1; ++line) {
+    const bool border = line == 1 || line == 2 * gridSide + 1;
+    overwrite(heading + line, gridStart,
+              border          ? borderLine
+              : line % 2 == 0 ? cellLine
+                              : separatorLine);
+  }
+  for (int cell = 1; cell <= gridCells; ++cell) {
+    if (roleOf(cell) == CellRole::equals) write(heading, grid, cell, '=');
+    if (roleOf(cell) == CellRole::hole) {
+      overwrite(lineOf(heading, cell), innerStart(grid, cell), holeMark);
+    }
+  }
+}
+
+void PrintPage::write(int heading, int grid, int cell, char text) {
+  PrintLines[lineOf(heading, cell)][innerStart(grid, cell) + 1] = text;
+}
+
+void PrintPage::RecordPuzzleForPrint() {
+  const int heading = headings[(state_.PuzzleNo + 2) % 3];
+  const std::string number = signedNumberText(state_.PuzzleNo);
+  std::string& line = PrintLines[heading];
+  line = headingText;
+  line += number;
+  line.append(28, ' ');
+  line += "Solution to Puzzle No";
+  line += number;
+
+  for (int k = 1; k <= 4; ++k) {
+    const int cell = CornerCells[k];
+    write(heading, puzzleGrid, cell, board_.GridDisp[cell].caption().back());
+  }
+  for (int k = 1; k <= 16; ++k) {
+    write(heading, solutionGrid, numberCells[k], state_.SolNumbers[k].back());
+    write(heading, solutionGrid, operatorCells[k], state_.SolOperators[k].back());
+  }
+}
+
+}  // namespace tessoro

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "board/board.h"
+#include "board/puzzle_state.h"
+
+namespace tessoro {
+
+/// The page of the last three puzzles, each with its solution beside it, as lines of text. It is
+/// composed as puzzles are made, so that printing needs neither the board nor the puzzle.
+class PrintPage {
+ public:
+  /// The number of lines on paper: elements 1..55 of `PrintLines`. The others are never printed.
+  static constexpr int lineCount = 55;
+  /// The heading lines of the three slots; the grids of a slot stand on the 15 lines below.
+  static constexpr std::array<int, 3> headings{1, 20, 39};
+  static constexpr std::string_view headingText = "Puzzle No";
+
+  PrintPage(const Board& board, const PuzzleState& state) : board_(board), state_(state) {}
+
+  std::array<std::string, 81> PrintLines;
+
+  /// Lays out three slots of empty grids.
+  void InitPrintPage();
+  /// Writes the current puzzle, its corners as the board shows them, and its solution into the
+  /// slot of its number.
+  void RecordPuzzleForPrint();
+
+ private:
+  void write(int heading, int grid, int cell, char text);
+  void drawGrid(int heading, int grid);
+
+  const Board& board_;
+  const PuzzleState& state_;
+};
+
+}  // namespace tessoro

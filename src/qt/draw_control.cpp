@@ -1,0 +1,116 @@
+#include "qt/draw_control.h"
+
+#include <cmath>
+
+#include "platform/cell_pane.h"
+#include "qt/look.h"
+
+namespace qt {
+namespace {
+
+using platform::CellPane;
+using platform::Frame;
+using platform::Label;
+using platform::PictureBox;
+
+void fill(const Canvas& canvas, const QRect& rect, platform::Colour colour) {
+  canvas.painter.fillRect(rect, toQColor(colour, canvas.palette));
+}
+
+/// The width of a border line: whole pixels, never none.
+int lineWidth(const Canvas& canvas) { return std::max(1, static_cast<int>(canvas.scale)); }
+
+void drawEdges(const Canvas& canvas, const QRect& rect, platform::Colour top, platform::Colour left,
+               platform::Colour right, platform::Colour bottom) {
+  const int line = lineWidth(canvas);
+  fill(canvas, {rect.left(), rect.top(), rect.width(), line}, top);
+  fill(canvas, {rect.left(), rect.top(), line, rect.height()}, left);
+  fill(canvas, {rect.right() - line + 1, rect.top(), line, rect.height()}, right);
+  fill(canvas, {rect.left(), rect.bottom() - line + 1, rect.width(), line}, bottom);
+}
+
+void drawText(const Canvas& canvas, const std::string& text, const platform::Font& font,
+              const QColor& colour) {
+  canvas.painter.setFont(toQFont(font, canvas.scale, canvas.logicalDpi));
+  canvas.painter.setPen(colour);
+  canvas.painter.drawText(canvas.rect, Qt::AlignCenter, toQString(text));
+}
+
+void draw(const CellPane& cell, const Look& look, const Canvas& canvas) {
+  fill(canvas, canvas.rect, look.backcolor);
+  drawEdges(canvas, canvas.rect, cell.bordertop, cell.borderleft, cell.borderright,
+            cell.borderbottom);
+  drawText(canvas, look.text, {cell.font, cell.fontsize, cell.fontbold},
+           look.greyed ? canvas.palette.color(QPalette::Disabled, QPalette::ButtonText)
+                       : toQColor(look.forecolor, canvas.palette));
+}
+
+void draw(const Label& label, const Look& look, const Canvas& canvas) {
+  fill(canvas, canvas.rect, look.backcolor);
+  drawText(canvas, look.text, label.font, toQColor(look.forecolor, canvas.palette));
+}
+
+void draw(const PictureBox& box, const Look& /*look*/, const Canvas& canvas) {
+  fill(canvas, canvas.rect, platform::buttonFace);
+  if (box.picture == nullptr) return;
+  const int size = static_cast<int>(std::lround(platform::Picture::size * canvas.scale));
+  QRect place(0, 0, size, size);
+  place.moveCenter(canvas.rect.center());
+  canvas.painter.drawImage(place, toQImage(*box.picture, size));
+}
+
+void draw(const Frame& /*frame*/, const Look& /*look*/, const Canvas& canvas) {
+  using platform::highlight3D;
+  using platform::shadow3D;
+  const int line = lineWidth(canvas);
+  fill(canvas, canvas.rect, platform::buttonFace);
+  drawEdges(canvas, canvas.rect.adjusted(line, line, 0, 0), highlight3D, highlight3D, highlight3D,
+            highlight3D);
+  drawEdges(canvas, canvas.rect.adjusted(0, 0, -line, -line), shadow3D, shadow3D, shadow3D,
+            shadow3D);
+}
+
+Look look(const CellPane& cell) {
+  return {.visible = cell.Visible(),
+          .greyed = cell.isButton() && !cell.enabled(),
+          .text = cell.caption(),
+          .backcolor = cell.backcolor(),
+          .forecolor = cell.forecolor()};
+}
+
+Look look(const Label& label) {
+  return {.visible = label.Visible(),
+          .text = label.caption(),
+          .backcolor = label.backcolor,
+          .forecolor = label.forecolor};
+}
+
+Look look(const PictureBox& box) { return {.visible = box.Visible()}; }
+
+Look look(const Frame& /*frame*/) { return {}; }
+
+void listen(platform::Observable& control, std::function<void()> listener) {
+  control.changed = std::move(listener);
+}
+
+void listen(Frame& /*frame*/, const std::function<void()>& /*listener*/) {}
+
+}  // namespace
+
+void drawControl(const platform::ControlRef& control, const Look& look, const Canvas& canvas) {
+  std::visit([&](const auto* it) { draw(*it, look, canvas); }, control);
+}
+
+Look lookOf(const platform::ControlRef& control) {
+  return std::visit([](const auto* it) { return look(*it); }, control);
+}
+
+const platform::Place& placeOf(const platform::ControlRef& control) {
+  return std::visit([](const auto* it) -> const platform::Place& { return it->place; }, control);
+}
+
+void onChange(const platform::ControlRef& control, std::function<void()> listener) {
+  std::visit([&](auto* it) { listen(*it, std::move(listener)); }, control);
+}
+
+}  // namespace qt

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QPainter>
+#include <functional>
+
+#include "platform/control.h"
+#include "qt/form_view.h"
+
+namespace qt {
+
+/// Where and how a control is drawn.
+struct Canvas {
+  QPainter& painter;  ///< in pixels of the screen
+  QRect rect;         ///< the control's, in these pixels
+  double scale;       ///< pixels of the screen to a device-independent one
+  const QPalette& palette;
+  double logicalDpi;
+};
+
+void drawControl(const platform::ControlRef& control, const Look& look, const Canvas& canvas);
+
+Look lookOf(const platform::ControlRef& control);
+const platform::Place& placeOf(const platform::ControlRef& control);
+/// Has `listener` called when a property of the control changes.
+void onChange(const platform::ControlRef& control, std::function<void()> listener);
+
+}  // namespace qt

@@ -1,0 +1,192 @@
+#include "qt/form_view.h"
+
+#include <QCoreApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <cmath>
+#include <ranges>
+
+#include "platform/cell_pane.h"
+#include "qt/draw_control.h"
+#include "qt/look.h"
+
+namespace qt {
+namespace {
+
+/// Asks a view to bring what it shows up to date with its controls. Changes are gathered until the
+/// handler that makes them is done, so that what changes and changes back is not drawn at all.
+const auto refreshEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+/// The rectangle in the pixels of a grid in which the client area begins at `origin` and `scale`
+/// of them make a device-independent one.
+QRect pixelRect(const platform::Place& place, double scale, QPoint origin) {
+  const auto edge = [&](int twips) {
+    return static_cast<int>(std::lround(twips / twipsPerPixel * scale));
+  };
+  const QPoint topLeft(edge(place.left), edge(place.top));
+  const QPoint bottomRight(edge(place.left + place.width), edge(place.top + place.height));
+  return {origin + topLeft, origin + bottomRight - QPoint(1, 1)};
+}
+
+QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
+  QRegion result;
+  for (const QRect& rect : region) result += toPixels.mapRect(QRectF(rect)).toAlignedRect();
+  return result;
+}
+
+bool isWhole(double scale) { return scale == std::floor(scale); }
+
+platform::MouseButton toMouseButton(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return platform::MouseButton::left;
+    case Qt::RightButton:
+      return platform::MouseButton::right;
+    case Qt::MiddleButton:
+      return platform::MouseButton::middle;
+    default:
+      return platform::MouseButton::other;
+  }
+}
+
+std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
+  return static_cast<std::int16_t>((modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
+                                   (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
+                                   (modifiers.testFlag(Qt::AltModifier) ? 4 : 0));
+}
+
+}  // namespace
+
+FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setFixedSize(static_cast<int>(std::lround(form.clientWidth / twipsPerPixel)),
+               static_cast<int>(std::lround(form.clientHeight / twipsPerPixel)));
+  add(form.controls, 0, 0);
+}
+
+void FormView::add(const platform::Controls& controls, int left, int top) {
+  for (const platform::ControlRef& control : controls) {
+    platform::Place place = placeOf(control);
+    place.left += left;
+    place.top += top;
+    const std::size_t index = items_.size();
+    items_.push_back({control, place, lookOf(control)});
+    onChange(control, [this, index] { markStale(index); });
+    if (const auto* const* frame = std::get_if<platform::Frame*>(&control)) {
+      add((*frame)->controls, place.left, place.top);
+    }
+  }
+}
+
+void FormView::markStale(std::size_t item) {
+  items_[item].stale = true;
+  if (anyStale_) return;
+  anyStale_ = true;
+  QCoreApplication::postEvent(this, new QEvent(refreshEvent), Qt::HighEventPriority);
+}
+
+bool FormView::event(QEvent* event) {
+  if (event->type() != refreshEvent) return QWidget::event(event);
+  refreshStale();
+  return true;
+}
+
+void FormView::refreshStale() {
+  anyStale_ = false;
+  // At a fractional scale the toolkit may cut a pixel off the edges of what is to be repainted.
+  const int margin = isWhole(devicePixelRatioF()) ? 0 : 1;
+  for (std::size_t i = 0; i < items_.size(); ++i) {
+    Item& item = items_[i];
+    if (!item.stale) continue;
+    item.stale = false;
+    Look look = lookOf(item.control);
+    if (look == item.look) continue;
+    const bool seen = look.visible || item.look.visible;
+    item.look = std::move(look);
+    if (!seen) continue;
+    for (const QRect& rect : uncovered(i)) {
+      update(rect.adjusted(-margin, -margin, margin, margin));
+    }
+  }
+}
+
+QRegion FormView::uncovered(std::size_t item) const {
+  QRegion region(pixelRect(items_[item].place, 1, {}));
+  for (std::size_t i = item + 1; i < items_.size(); ++i) {
+    if (items_[i].look.visible) region -= pixelRect(items_[i].place, 1, {});
+  }
+  return region;
+}
+
+void FormView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const QTransform toPixels = painter.deviceTransform();
+  const double scale = toPixels.m11();
+  const QPoint origin(qRound(toPixels.dx()), qRound(toPixels.dy()));
+  painter.setTransform(toPixels.inverted(), true);
+
+  // From front to back each control gets the pixels that none before it has taken, so that every
+  // pixel is drawn once and what is wholly covered not at all.
+  struct Part {
+    const Item* item;
+    QRect rect;
+    QRegion region;
+  };
+  std::vector<Part> parts;
+  QRegion left = pixelRegion(event->region(), toPixels);
+  for (const Item& item : items_ | std::views::reverse) {
+    if (!item.look.visible) continue;
+    const QRect rect = pixelRect(item.place, scale, origin);
+    const QRegion region = left & rect;
+    if (region.isEmpty()) continue;
+    left -= rect;
+    parts.push_back({&item, rect, region});
+  }
+  painter.setClipRegion(left);
+  painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, palette()));
+  for (const Part& part : parts) {
+    painter.setClipRegion(part.region);
+    drawControl(part.item->control, part.item->look,
+                {painter, part.rect, scale, palette(), static_cast<double>(logicalDpiY())});
+    ++drawnControls_;
+  }
+}
+
+FormView::Item* FormView::itemAt(QPointF point) {
+  const auto inside = [](double at, int start, int size) {
+    const double twips = at * twipsPerPixel;
+    return twips >= start && twips < start + size;
+  };
+  for (Item& item : items_ | std::views::reverse) {
+    if (lookOf(item.control).visible && inside(point.x(), item.place.left, item.place.width) &&
+        inside(point.y(), item.place.top, item.place.height)) {
+      return &item;
+    }
+  }
+  return nullptr;
+}
+
+void FormView::mousePressEvent(QMouseEvent* event) {
+  const Item* item = itemAt(event->position());
+  if (item == nullptr) return;
+  if (auto* const* cell = std::get_if<platform::CellPane*>(&item->control)) {
+    pressed_ = *cell;
+    pressed_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
+                     event->position().x() * twipsPerPixel - item->place.left,
+                     event->position().y() * twipsPerPixel - item->place.top});
+  }
+}
+
+void FormView::mouseReleaseEvent(QMouseEvent* event) {
+  if (pressed_ == nullptr) return;
+  const Item* item = itemAt(event->position());
+  const bool inside = item != nullptr && item->control == platform::ControlRef(pressed_);
+  pressed_->release(toMouseButton(event->button()), inside);
+}
+
+void FormView::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) update();
+  QWidget::changeEvent(event);
+}
+
+}  // namespace qt

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "platform/form.h"
+
+namespace qt {
+
+/// What a control shows at the moment.
+struct Look {
+  bool visible = true;
+  bool greyed = false;
+  std::string text = {};
+  platform::Colour backcolor = {};
+  platform::Colour forecolor = {};
+  bool operator==(const Look&) const = default;
+};
+
+/// The client area of a form: draws its controls and passes mouse input on to them.
+///
+/// The controls share one widget, because a widget begins and ends at whole device-independent
+/// pixels. At a scale factor such as 1.25 those do not fall on the screen's pixels, and cells that
+/// overlap or touch would show gaps and doubled borders; here every edge is rounded to a pixel of
+/// the screen once, alike for both cells that meet at it.
+class FormView final : public QWidget {
+ public:
+  FormView(platform::Form& form, QWidget* parent);
+
+  /// How often controls have been drawn since the view was made, wholly or in part.
+  long drawnControls() const { return drawnControls_; }
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  struct Item {
+    platform::ControlRef control;
+    platform::Place place;  ///< in the client area, twips
+    Look look;              ///< as the screen shows it, or will after the next repaint
+    bool stale = false;     ///< the control may look different by now
+  };
+
+  void add(const platform::Controls& controls, int left, int top);
+  void markStale(std::size_t item);
+  void refreshStale();
+  /// The part of an item that no other in front of it covers.
+  QRegion uncovered(std::size_t item) const;
+  Item* itemAt(QPointF point);
+
+  std::vector<Item> items_;  ///< from back to front
+  bool anyStale_ = false;
+  platform::CellPane* pressed_ = nullptr;
+  long drawnControls_ = 0;
+};
+
+}  // namespace qt

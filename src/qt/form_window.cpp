@@ -1,0 +1,63 @@
+#include "qt/form_window.h"
+
+#include <QCloseEvent>
+#include <QLayout>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "qt/form_view.h"
+#include "qt/look.h"
+
+namespace qt {
+namespace {
+
+QIcon toQIcon(const platform::Picture& picture) {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 64, 128}) {
+    icon.addPixmap(QPixmap::fromImage(toQImage(picture, size)));
+  }
+  return icon;
+}
+
+}  // namespace
+
+FormWindow::FormWindow(platform::Form& form, QWidget* parent)
+    : QMainWindow(parent,
+                  Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                      Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                      Qt::WindowCloseButtonHint),
+      form_(form),
+      view_(new FormView(form, this)) {
+  if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
+  setWindowTitle(toQString(form.caption()));
+  form.changed = [this] { setWindowTitle(toQString(form_.caption())); };
+  for (const platform::MenuItem* menu : form.menus) {
+    addMenu(*menuBar()->addMenu(toQString(menu->caption())), *menu);
+  }
+  setCentralWidget(view_);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
+  for (platform::MenuItem* entry : item.items) {
+    if (entry->caption() == "-") {
+      menu.addSeparator();
+      continue;
+    }
+    QAction* action = menu.addAction(QString());
+    const auto show = [action, entry] {
+      action->setText(toQString(entry->caption()));
+      action->setEnabled(entry->enabled());
+    };
+    show();
+    entry->changed = show;
+    connect(action, &QAction::triggered, this, [entry] { entry->choose(); });
+  }
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (form_.unload) form_.unload();
+}
+
+}  // namespace qt

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "platform/form.h"
+
+namespace qt {
+
+class FormView;
+
+/// A window that shows a form: its title, icon, menu bar and client area.
+class FormWindow final : public QMainWindow {
+ public:
+  explicit FormWindow(platform::Form& form, QWidget* parent = nullptr);
+
+  FormView& view() const { return *view_; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void addMenu(QMenu& menu, const platform::MenuItem& item);
+
+  platform::Form& form_;
+  FormView* view_;
+};
+
+}  // namespace qt

@@ -1,0 +1,73 @@
+#include "qt/qt_desktop.h"
+
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+
+#include "qt/form_window.h"
+#include "qt/look.h"
+
+namespace qt {
+namespace {
+
+std::string programName;
+
+/// The toolkit aborts where it finds no display, which would leave a core dump and three
+/// paragraphs of plug-in names instead of the one fact that matters.
+void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
+                     const QString& /*message*/) {
+  if (type != QtFatalMsg) return;
+  std::fprintf(stderr, "%s: cannot open a window, because there is no display.\n",
+               programName.c_str());
+  std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(char* programPath, Program program)
+    : program_(std::move(program)), arguments_{1, {programPath, nullptr}} {
+  programName = program_.name;
+  const QtMessageHandler handler = qInstallMessageHandler(reportNoDisplay);
+  application_ = std::make_unique<QApplication>(arguments_.count, arguments_.values);
+  qInstallMessageHandler(handler);
+  
+  QApplication::setApplicationName(toQString(program_.name));
+  substituteFonts();
+}
+
+QtDesktop::~QtDesktop() = default;
+
+platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons buttons) {
+  QMessageBox box(main_.get());
+  box.setWindowTitle(toQString(program_.messageTitle));
+  box.setText(toQString(text));
+  // Modal to the main window alone: help stays readable beside it.
+  box.setWindowModality(Qt::WindowModal);
+  box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
+                                                : QMessageBox::Yes | QMessageBox::No);
+  const int answer = box.exec();
+  if (buttons == Buttons::ok) return Answer::ok;
+  return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+void QtDesktop::yield() {
+  QApplication::processEvents();
+}
+
+void QtDesktop::endProgram() {
+  // Leaving through the event loop would let more handlers run; the windows go with the process.
+  std::_Exit(EXIT_SUCCESS);
+}
+
+FormWindow& QtDesktop::show(platform::Form& form) {
+  main_ = std::make_unique<FormWindow>(form);
+  main_->show();
+  return *main_;
+}
+
+int QtDesktop::run(platform::Form& form) {
+  show(form);
+  return QApplication::exec();
+}
+
+}  // namespace qt

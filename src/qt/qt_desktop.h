@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QApplication>
+#include <memory>
+#include <string>
+
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/form.h"
+
+namespace qt {
+
+class FormWindow;
+
+/// What the desktop is told of the program.
+struct Program {
+  std::string name;
+  std::string messageTitle;  ///< the title of every message box
+};
+
+/// The desktop as the toolkit gives it.
+class QtDesktop final : public platform::Desktop {
+ public:
+  /// Connects to the display. Without one it says so in one line on standard error and ends the
+  /// program with exit status 1.
+  QtDesktop(char* programPath, Program program);
+  ~QtDesktop() override;
+
+  Answer messageBox(std::string_view text, Buttons buttons) override;
+  void yield() override;
+  double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  [[noreturn]] void endProgram() override;
+
+  /// Shows the form as the program's main window.
+  FormWindow& show(platform::Form& form);
+  /// Shows the form and handles its events until the program ends; the program's exit status.
+  int run(platform::Form& form);
+
+ private:
+  /// The toolkit's own arguments: the program's path alone, since it takes no others.
+  struct Arguments {
+    int count = 1;
+    char* values[2];
+  };
+
+  Program program_;
+  Arguments arguments_;
+  std::unique_ptr<QApplication> application_;
+  std::unique_ptr<FormWindow> main_;
+  platform::Clock clock_;
+};
+
+}  // namespace qt

@@ -1,0 +1,56 @@
+#include "rules/results.h"
+
+#include <algorithm>
+
+#include "board/captions.h"
+#include "rules/eval_line.h"
+
+namespace tessoro {
+namespace {
+
+constexpr int alongRow = 1;
+constexpr int downColumn = gridSide;
+
+constexpr std::array<int, 6> lineResultCells{7, 21, 35, 43, 45, 47};
+/// Four number cells whose lines together are all rows and columns of numbers.
+constexpr std::array<int, 4> cellsOfAllLines{3, 5, 15, 29};
+
+}  // namespace
+
+void Results::show(int value, int cell) {
+  board_.GridDisp[cell].caption = value >= 1 && value <= 9 ? numberText(value) : "?";
+}
+
+void Results::updateLine(int first, int step) {
+  const auto caption = [&](int place) -> const std::string& {
+    return board_.GridDisp[first + place * step].caption();
+  };
+  const int value = EvalLine(readNumber(caption(0)), readNumber(caption(2)), readNumber(caption(4)),
+                             caption(1), caption(3));
+  show(value, first + 6 * step);
+}
+
+void Results::UpdateLines(std::string_view code) {
+  const std::string_view row = code.substr(0, 2);
+  const std::string_view column = code.substr(row.size());
+  if (const int first = readNumber(row); first != 0) updateLine(first, alongRow);
+  if (const int first = readNumber(column); first != 0) updateLine(first, downColumn);
+}
+
+void Results::UpdateCornerResult() {
+  const bool unknown = std::any_of(lineResultCells.begin(), lineResultCells.end(), [&](int cell) {
+    return board_.GridDisp[cell].caption() == "?";
+  });
+  if (unknown) {
+    board_.GridDisp[CornerCells[4]].caption = "?";
+  } else {
+    updateLine(CornerCells[3], alongRow);
+  }
+}
+
+void Results::updateAll() {
+  for (const int cell : cellsOfAllLines) UpdateLines(board_.GridDisp[cell].Tag());
+  UpdateCornerResult();
+}
+
+}  // namespace tessoro

@@ -1,0 +1,118 @@
+#include "solver/solution_attempt.h"
+
+#include "board/captions.h"
+
+namespace tessoro {
+namespace {
+
+constexpr std::string_view noneFits = "?";
+
+bool isFixed(std::int16_t target) { return target > 0; }
+bool isDigit(std::int16_t value) { return value >= 1 && value <= 9; }
+
+std::string_view firstOperator(std::size_t pair) { return OpPairs[pair].substr(0, 1); }
+std::string_view secondOperator(std::size_t pair) { return OpPairs[pair].substr(1); }
+
+/// The values of "a op1 b op2 c" under the pairs of `OpPairs`, in its order. With digits 1..9 they
+/// lie between -80 and 729.
+SolutionAttempt::PairValues valuesOf(int a, int b, int c) {
+  const std::array<int, PairCount + 1> values{
+      0,         a + b + c, a + b - c, a - b - c, a - b + c,
+      a + b * c, a * b + c, a - b * c, a * b - c, a * b * c};
+  SolutionAttempt::PairValues narrow{};
+  for (std::size_t k = 1; k <= PairCount; ++k) narrow[k] = static_cast<std::int16_t>(values[k]);
+  return narrow;
+}
+
+}  // namespace
+
+bool SolutionAttempt::run() {
+  for (int row = 1; row <= 3; ++row) drawRow(row);
+  if (!chooseColumns()) return false;
+  ColPairValue = PairValue;
+  ChooseRowPair(13);
+  if (!found()) return false;
+  state_.SolNumbers[16] = LineResult;
+  RowPairValue = PairValue;
+  MatchGrandTotal();
+  return found();
+}
+
+void SolutionAttempt::drawRow(int row) {
+  const int start = (row - 1) * 4 + 1;
+  do {
+    for (int k = start; k < start + 3; ++k) {
+      const int digit = digits_.draw();  // drawn even where the number is fixed
+      const bool fixed = k == 1 && isFixed(state_.TargetTL);
+      state_.SolNumbers[k] = signedNumberText(fixed ? state_.TargetTL : digit);
+    }
+    ChooseRowPair(start);
+  } while (!found());
+  state_.SolOperators[2 * row - 1] = LineOp1;
+  state_.SolOperators[2 * row] = LineOp2;
+  state_.SolNumbers[start + 3] = LineResult;
+}
+
+bool SolutionAttempt::chooseColumns() {
+  for (int col = 1; col <= 4; ++col) {
+    ChooseColPair(col);
+    if (!found()) return false;
+    // Column 4's entries are provisional: the match of the grand total replaces them.
+    state_.SolNumbers[12 + col] = LineResult;
+    state_.SolOperators[7 + 2 * col] = LineOp1;
+    state_.SolOperators[8 + 2 * col] = LineOp2;
+  }
+  return true;
+}
+
+void SolutionAttempt::ChooseRowPair(int start) {
+  const std::int16_t target = start == 1    ? state_.TargetTR
+                              : start == 13 ? state_.TargetBR
+                                            : std::int16_t{0};
+  choosePair(start, 1, target);
+}
+
+void SolutionAttempt::ChooseColPair(int col) {
+  choosePair(col, 4, col == 1 ? state_.TargetBL : std::int16_t{0});
+}
+
+void SolutionAttempt::choosePair(int first, int step, std::int16_t target) {
+  const auto number = [&](int k) { return readNumber(state_.SolNumbers[first + k * step]); };
+  PairValue = valuesOf(number(0), number(1), number(2));
+  LineResult = noneFits;
+  LineOp1 = noneFits;
+  LineOp2 = noneFits;
+  for (std::size_t k = 1; k <= PairCount; ++k) {
+    if (isDigit(PairValue[k]) && (!isFixed(target) || PairValue[k] == target)) {
+      LineResult = signedNumberText(PairValue[k]);
+      takeOperators(k);
+      return;
+    }
+  }
+}
+
+void SolutionAttempt::takeOperators(std::size_t pair) {
+  LineOp1 = firstOperator(pair);
+  LineOp2 = secondOperator(pair);
+}
+
+void SolutionAttempt::MatchGrandTotal() {
+  LineResult.clear();
+  for (std::size_t i = 1; i <= PairCount; ++i) {
+    for (std::size_t j = 1; j <= PairCount; ++j) {
+      const std::int16_t total = ColPairValue[j];
+      if (!isDigit(total) || RowPairValue[i] != total) continue;
+      state_.SolOperators[7] = firstOperator(i);
+      state_.SolOperators[8] = secondOperator(i);
+      takeOperators(j);
+      if (isFixed(state_.TargetBR) && total != state_.TargetBR) continue;
+      state_.SolNumbers[16] = signedNumberText(total);
+      state_.SolOperators[15] = LineOp1;
+      state_.SolOperators[16] = LineOp2;
+      return;
+    }
+  }
+  LineResult = noneFits;
+}
+
+}  // namespace tessoro
