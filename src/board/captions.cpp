@@ -7,13 +7,19 @@
 
 namespace tessoro {
 
+namespace {
+
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+}  // namespace
+
 std::int16_t readNumber(std::string_view caption) {
-  const std::string_view text = trimmed(caption);
-  // Most captions are one digit, and a move reads dozens of them.
-  if (text.size() == 1) {
-    const int digit = text.front() - '0';
-    return static_cast<std::int16_t>(digit >= 0 && digit <= 9 ? digit : 0);
-  }
+  std::string_view text = caption;
+  while (text.starts_with(' ')) text.remove_prefix(1);
+  // Nearly every text is one digit, and searching reads a great many.
+  if (text.size() == 1) return static_cast<std::int16_t>(isDigit(text[0]) ? text[0] - '0' : 0);
   // Letters are cut off first, since the library would take "inf" for a number.
   std::string_view decimal = text.substr(0, text.find_first_not_of("+-.0123456789"));
   if (decimal.starts_with('+')) decimal.remove_prefix(1);
@@ -24,11 +30,14 @@ std::int16_t readNumber(std::string_view caption) {
       std::clamp<double>(std::nearbyint(value), Limits::min(), Limits::max()));
 }
 
-std::string numberText(int number) { return std::to_string(number); }
+std::string numberText(int number) {
+  return std::to_string(number);
+}
 
 std::string signedNumberText(int number) {
-  std::string text(number < 0 ? 0 : 1, ' ');
-  return text.append(std::to_string(number));
+  if (number < 0) return numberText(number);
+  if (number <= 9) return {' ', static_cast<char>('0' + number)};
+  return " " + numberText(number);
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -15,9 +15,15 @@ constexpr int gridCells = gridSide * gridSide;
 constexpr int boardCells = 54;
 
 /// The cell in the given row and column, each 1..7.
-constexpr int cellIndex(int row, int column) { return (row - 1) * gridSide + column; }
-constexpr int rowOf(int cell) { return (cell - 1) / gridSide + 1; }
-constexpr int columnOf(int cell) { return (cell - 1) % gridSide + 1; }
+constexpr int cellIndex(int row, int column) {
+  return (row - 1) * gridSide + column;
+}
+constexpr int rowOf(int cell) {
+  return (cell - 1) / gridSide + 1;
+}
+constexpr int columnOf(int cell) {
+  return (cell - 1) % gridSide + 1;
+}
 
 /// What a cell is for. The characters are those of `roleMap`.
 enum class CellRole : char {
@@ -60,7 +66,7 @@ constexpr std::array<int, 5> cornerNumbers{0, 1, 4, 13, 16};
 /// The cells of the solution's numbers and operators; element 0 of each is not used.
 constexpr std::array<int, 17> numberCells{0,  1,  3,  5,  7,  15, 17, 19, 21,
                                           29, 31, 33, 35, 43, 45, 47, 49};
-constexpr std::array<int, 17> operatorCells{0, 2, 4,  16, 18, 30, 32, 44, 46,
+constexpr std::array<int, 17> operatorCells{0, 2,  4,  16, 18, 30, 32, 44, 46,
                                             8, 22, 10, 24, 12, 26, 14, 28};
 
 /// The codes by which a clickable cell names the lines through it: "RRCC" for a number cell, with

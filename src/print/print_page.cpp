@@ -23,7 +23,9 @@ constexpr std::size_t innerStart(int grid, int cell) {
   return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
 }
 
-constexpr int lineOf(int heading, int cell) { return heading + 2 * rowOf(cell); }
+constexpr int lineOf(int heading, int cell) {
+  return heading + 2 * rowOf(cell);
+}
 
 }  // namespace
 

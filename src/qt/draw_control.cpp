@@ -18,7 +18,9 @@ void fill(const Canvas& canvas, const QRect& rect, platform::Colour colour) {
 }
 
 /// The width of a border line: whole pixels, never none.
-int lineWidth(const Canvas& canvas) { return std::max(1, static_cast<int>(canvas.scale)); }
+int lineWidth(const Canvas& canvas) {
+  return std::max(1, static_cast<int>(canvas.scale));
+}
 
 void drawEdges(const Canvas& canvas, const QRect& rect, platform::Colour top, platform::Colour left,
                platform::Colour right, platform::Colour bottom) {
@@ -85,9 +87,13 @@ Look look(const Label& label) {
           .forecolor = label.forecolor};
 }
 
-Look look(const PictureBox& box) { return {.visible = box.Visible()}; }
+Look look(const PictureBox& box) {
+  return {.visible = box.Visible()};
+}
 
-Look look(const Frame& /*frame*/) { return {}; }
+Look look(const Frame& /*frame*/) {
+  return {};
+}
 
 void listen(platform::Observable& control, std::function<void()> listener) {
   control.changed = std::move(listener);

@@ -34,7 +34,9 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
   return result;
 }
 
-bool isWhole(double scale) { return scale == std::floor(scale); }
+bool isWhole(double scale) {
+  return scale == std::floor(scale);
+}
 
 platform::MouseButton toMouseButton(Qt::MouseButton button) {
   switch (button) {

@@ -22,10 +22,9 @@ QIcon toQIcon(const platform::Picture& picture) {
 }  // namespace
 
 FormWindow::FormWindow(platform::Form& form, QWidget* parent)
-    : QMainWindow(parent,
-                  Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                      Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                      Qt::WindowCloseButtonHint),
+    : QMainWindow(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                              Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                              Qt::WindowCloseButtonHint),
       form_(form),
       view_(new FormView(form, this)) {
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));

@@ -30,7 +30,7 @@ QtDesktop::QtDesktop(char* programPath, Program program)
   const QtMessageHandler handler = qInstallMessageHandler(reportNoDisplay);
   application_ = std::make_unique<QApplication>(arguments_.count, arguments_.values);
   qInstallMessageHandler(handler);
-  
+
   QApplication::setApplicationName(toQString(program_.name));
   substituteFonts();
 }

@@ -7,18 +7,26 @@ namespace {
 
 constexpr std::string_view noneFits = "?";
 
-bool isFixed(std::int16_t target) { return target > 0; }
-bool isDigit(std::int16_t value) { return value >= 1 && value <= 9; }
+bool isFixed(std::int16_t target) {
+  return target > 0;
+}
+bool isDigit(std::int16_t value) {
+  return value >= 1 && value <= 9;
+}
 
-std::string_view firstOperator(std::size_t pair) { return OpPairs[pair].substr(0, 1); }
-std::string_view secondOperator(std::size_t pair) { return OpPairs[pair].substr(1); }
+std::string_view firstOperator(std::size_t pair) {
+  return OpPairs[pair].substr(0, 1);
+}
+std::string_view secondOperator(std::size_t pair) {
+  return OpPairs[pair].substr(1);
+}
 
 /// The values of "a op1 b op2 c" under the pairs of `OpPairs`, in its order. With digits 1..9 they
 /// lie between -80 and 729.
 SolutionAttempt::PairValues valuesOf(int a, int b, int c) {
-  const std::array<int, PairCount + 1> values{
-      0,         a + b + c, a + b - c, a - b - c, a - b + c,
-      a + b * c, a * b + c, a - b * c, a * b - c, a * b * c};
+  const std::array<int, PairCount + 1> values{0,         a + b + c, a + b - c, a - b - c,
+                                              a - b + c, a + b * c, a * b + c, a - b * c,
+                                              a * b - c, a * b * c};
   SolutionAttempt::PairValues narrow{};
   for (std::size_t k = 1; k <= PairCount; ++k) narrow[k] = static_cast<std::int16_t>(values[k]);
   return narrow;

@@ -40,9 +40,9 @@ class SolutionAttempt {
   std::string_view LineOp2;
 
   using PairValues = std::array<std::int16_t, PairCount + 1>;  ///< element 0 is not used
-  PairValues PairValue{};     ///< of the line last chosen for
-  PairValues RowPairValue{};  ///< of matrix row 4
-  PairValues ColPairValue{};  ///< of matrix column 4
+  PairValues PairValue{};                                      ///< of the line last chosen for
+  PairValues RowPairValue{};                                   ///< of matrix row 4
+  PairValues ColPairValue{};                                   ///< of matrix column 4
 
  private:
   void drawRow(int row);

@@ -1,0 +1,102 @@
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+
+#include "allocations.h"
+#include "app/game.h"
+#include "platform/clock.h"
+
+namespace {
+
+class NoWindows final : public platform::Desktop {
+ public:
+  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override { return Answer::ok; }
+  void yield() override {}
+  double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  [[noreturn]] void endProgram() override { std::exit(EXIT_SUCCESS); }
+
+ private:
+  platform::Clock clock_;
+};
+
+struct Bench {
+  NoWindows desktop;
+  tessoro::ReseededDigits digits{desktop};
+  tessoro::Game game{desktop, digits};
+
+  Bench() { game.startUp.Form_Load(); }
+
+  void fixCorners(const std::array<std::int16_t, 4>& targets) {
+    for (int k = 1; k <= 4; ++k) game.state.*tessoro::cornerTargets[k] = targets[k - 1];
+  }
+};
+
+/// Reports how many allocations each iteration has made since `before`.
+void reportAllocations(benchmark::State& run, long before) {
+  run.counters["allocations"] = benchmark::Counter(static_cast<double>(allocations - before),
+                                                   benchmark::Counter::kAvgIterations);
+}
+
+void freeSearch(benchmark::State& run) {
+  Bench bench;
+  const long before = allocations;
+  for (auto _ : run) bench.game.search.FindSolution();
+  reportAllocations(run, before);
+}
+BENCHMARK(freeSearch);
+
+void searchWithFourCornersFixed(benchmark::State& run) {
+  Bench bench;
+  bench.fixCorners({3, 5, 7, 4});
+  double found = 0;
+  for (auto _ : run) {
+    bench.game.search.FindSolution();
+    found += bench.game.search.SolveFound() ? 1 : 0;
+  }
+  run.counters["found"] = benchmark::Counter(found, benchmark::Counter::kAvgIterations);
+}
+BENCHMARK(searchWithFourCornersFixed);
+
+/// All 500 attempts fail: 9 - 9 * 9 and its like never give a digit where 12 is asked for.
+void searchThatGivesUp(benchmark::State& run) {
+  Bench bench;
+  bench.fixCorners({0, 0, 0, 12});
+  for (auto _ : run) bench.game.search.FindSolution();
+}
+BENCHMARK(searchThatGivesUp);
+
+void oneAttempt(benchmark::State& run) {
+  Bench bench;
+  tessoro::SolutionAttempt attempt(bench.game.state, bench.digits);
+  const long before = allocations;
+  for (auto _ : run) benchmark::DoNotOptimize(attempt.run());
+  reportAllocations(run, before);
+}
+BENCHMARK(oneAttempt);
+
+/// What an attempt cannot do without: the nine draws of its first three rows.
+void nineDraws(benchmark::State& run) {
+  Bench bench;
+  for (auto _ : run) {
+    for (int i = 0; i < 9; ++i) benchmark::DoNotOptimize(bench.digits.draw());
+  }
+}
+BENCHMARK(nineDraws);
+
+void updateLines(benchmark::State& run) {
+  Bench bench;
+  bench.game.form.board.GridDisp[17].press({});
+  for (auto _ : run) bench.game.results.UpdateLines("1503");
+}
+BENCHMARK(updateLines);
+
+void oneMove(benchmark::State& run) {
+  Bench bench;
+  bench.game.form.board.GridDisp[17].press({});
+  const long before = allocations;
+  for (auto _ : run) bench.game.form.board.GridDisp[17].press({});
+  reportAllocations(run, before);
+}
+BENCHMARK(oneMove);
+
+}  // namespace

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "app/game.h"
+#include "board/captions.h"
+#include "rules/eval_line.h"
+
+namespace tessoro::test {
+
+struct ProgramEnded {};
+
+/// A desktop without windows: the test answers its boxes and runs handlers while it yields.
+class FakeDesktop final : public platform::Desktop {
+ public:
+  Answer messageBox(std::string_view text, Buttons buttons) override {
+    messages.emplace_back(text);
+    return buttons == Buttons::ok ? Answer::ok : answer;
+  }
+  void yield() override {
+    ++yields;
+    if (onYield) onYield();
+  }
+  double secondsSinceMidnight() override { return clock += tick; }
+  [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
+
+  std::vector<std::string> messages;
+  Answer answer = Answer::no;
+  std::function<void()> onYield;
+  int yields = 0;
+  double clock = 30000;
+  double tick = 1e-6;  ///< how far the clock goes on between two readings
+};
+
+/// Digits that the test writes down; when they are used up, real ones.
+class ScriptedDigits final : public Digits {
+ public:
+  explicit ScriptedDigits(platform::Desktop& desktop) : real_(desktop) {}
+  int draw() override {
+    if (script.empty()) return real_.draw();
+    const int digit = script.front();
+    script.pop_front();
+    return digit;
+  }
+
+  std::deque<int> script;
+
+ private:
+  ReseededDigits real_;
+};
+
+/// Whether every line of the stored solution has the digit it shows as its value.
+inline bool isTrueSolution(const PuzzleState& state) {
+  const auto number = [&](int r, int c) { return readNumber(state.SolNumbers[(r - 1) * 4 + c]); };
+  const auto& op = state.SolOperators;
+  for (int line = 1; line <= 4; ++line) {
+    const auto row =
+        EvalLine(number(line, 1), number(line, 2), number(line, 3), op[2 * line - 1], op[2 * line]);
+    const auto column = EvalLine(number(1, line), number(2, line), number(3, line),
+                                 op[7 + 2 * line], op[8 + 2 * line]);
+    if (row != number(line, 4) || column != number(4, line) || row < 1 || row > 9 || column < 1 ||
+        column > 9) {
+      return false;
+    }
+  }
+  return true;
+}
+
+class GameTest : public testing::Test {
+ protected:
+  FakeDesktop desktop;
+  ScriptedDigits digits{desktop};
+  Game game{desktop, digits};
+  PuzzleState& state = game.state;
+  Form1& form = game.form;
+
+  void SetUp() override { game.startUp.Form_Load(); }
+
+  Cell& cell(int index) { return form.board.GridDisp[index]; }
+  const std::string& caption(int index) { return cell(index).caption(); }
+  void press(int index, platform::MouseButton button = platform::MouseButton::left) {
+    cell(index).press({.button = button});
+  }
+  static void clickButton(Cell& button) {
+    button.press({});
+    button.release(platform::MouseButton::left, true);
+  }
+  std::string captionsOf(const std::vector<int>& cells) {
+    std::string all;
+    for (const int index : cells) all += caption(index).empty() ? "." : caption(index);
+    return all;
+  }
+  /// Presses the cell until it shows the text.
+  void turnTo(int index, const std::string& text) {
+    for (int presses = 0; caption(index) != text && presses < 10; ++presses) press(index);
+    ASSERT_EQ(caption(index), text);
+  }
+  /// Plays the stored solution, but for one number cell and the operators and numbers given.
+  void playSolution(int leaveOut = 0) {
+    for (int k = 1; k <= 16; ++k) {
+      if (cell(numberCells[k]).enabled() && numberCells[k] != leaveOut) {
+        turnTo(numberCells[k], std::string(trimmed(state.SolNumbers[k])));
+      }
+      turnTo(operatorCells[k], state.SolOperators[k]);
+    }
+  }
+};
+
+}  // namespace tessoro::test

@@ -1,0 +1,110 @@
+#include "fixture.h"
+
+namespace tessoro::test {
+namespace {
+
+using PlayTest = GameTest;
+using platform::MouseButton;
+
+TEST_F(PlayTest, StartsOnAnEmptyBoardWithItsFourCorners) {
+  std::string shown;
+  for (int index = 0; index <= 49; ++index) {
+    const bool corner = index == 1 || index == 7 || index == 43 || index == 49;
+    if (corner) {
+      EXPECT_TRUE(cell(index).backcolor() == ColGreen && cell(index).forecolor() == ColWhite);
+      continue;
+    }
+    shown += caption(index).empty() ? "." : caption(index);
+    EXPECT_EQ(cell(index).backcolor(),
+              roleOf(index) == CellRole::hole ? ColBlack : platform::buttonFace);
+  }
+  EXPECT_EQ(shown, ".....=............=.............=.=.=.=.=....=");
+  for (int index = 50; index <= 53; ++index) EXPECT_FALSE(cell(index).Visible());
+  EXPECT_TRUE(form.RightMess.Visible() && form.NewPuz.Visible());
+  EXPECT_FALSE(form.CompMess.Visible() || form.Solveit.Visible() || form.board.NPict[1].Visible());
+  EXPECT_EQ(form.caption(), "Puzzle Number  1");
+
+  std::string pressable;
+  for (int index = 1; index <= 53; ++index) {
+    if (cell(index).enabled()) pressable += std::to_string(index) + " ";
+  }
+  EXPECT_EQ(pressable, "2 3 4 5 8 10 12 14 15 16 17 18 19 22 24 26 28 29 30 31 32 33 44 46 ");
+}
+
+TEST_F(PlayTest, PressesStepDigitsAndOperators) {
+  press(17);
+  EXPECT_EQ(caption(17), "1");
+  press(17, MouseButton::right);
+  EXPECT_EQ(caption(17), "9");
+  press(17, MouseButton::middle);
+  EXPECT_EQ(caption(17), "1");
+  press(19, MouseButton::right);
+  EXPECT_EQ(caption(19), "9");
+  for (const auto* next : {"+", "-", "*", "+"}) {
+    press(18, next == std::string("-") ? MouseButton::right : MouseButton::left);
+    EXPECT_EQ(caption(18), next);
+  }
+  const std::string before = captionsOf({1, 6, 7, 9, 21});
+  for (const int index : {1, 6, 7, 9, 21, 36, 43, 49, 51}) press(index);
+  EXPECT_EQ(captionsOf({1, 6, 7, 9, 21}), before);
+}
+
+TEST_F(PlayTest, TheFirstMoveShowsTheTargetsAndAllLines) {
+  const std::string targets = captionsOf({1, 7, 43, 49});
+  press(17);
+  EXPECT_EQ(captionsOf({7, 21, 35, 43, 45, 47, 49}), "???????");
+  EXPECT_EQ(captionsOf({1, 50, 51, 52, 53}), targets.substr(0, 1) + targets);
+  EXPECT_FALSE(cell(50).Visible()) << "the top left corner is right";
+  EXPECT_TRUE(form.board.NPict[1].Visible());
+  EXPECT_EQ(cell(1).backcolor(), ColGreen);
+  for (int k = 2; k <= 4; ++k) {
+    EXPECT_TRUE(cell(OuterCornerCells[k]).Visible());
+    EXPECT_FALSE(form.board.NPict[k].Visible());
+    EXPECT_EQ(cell(CornerCells[k]).backcolor(), ColBlack);
+  }
+}
+
+TEST_F(PlayTest, AWholePuzzleToItsEnd) {
+  playSolution(33);
+  EXPECT_TRUE(desktop.messages.empty());
+  turnTo(33, std::string(trimmed(state.SolNumbers[11])));
+  EXPECT_EQ(desktop.messages, std::vector<std::string>{"You got it !"});
+  EXPECT_TRUE(state.BoardLocked);
+  EXPECT_FALSE(form.RightMess.Visible());
+  for (int k = 1; k <= 4; ++k) {
+    EXPECT_EQ(cell(CornerCells[k]).backcolor(), ColGreen);
+    EXPECT_TRUE(form.board.NPict[k].Visible());
+    EXPECT_FALSE(cell(OuterCornerCells[k]).Visible());
+  }
+  const std::string solved = captionsOf({3, 2, 49});
+  press(3);
+  press(2);
+  EXPECT_EQ(captionsOf({3, 2, 49}), solved);
+}
+
+TEST_F(PlayTest, Cell49ShowsTheLineOfTheOperatorMovedLast) {
+  // Lines that give the results row 2, 4, 1 and the results column 3, 1, 4.
+  const std::vector<std::pair<int, std::string>> captions{
+      {1, "1"},  {2, "+"},  {3, "1"},  {4, "+"},  {5, "1"},  {15, "2"}, {16, "+"}, {17, "2"},
+      {18, "-"}, {19, "3"}, {29, "1"}, {30, "*"}, {31, "1"}, {32, "+"}, {33, "3"}, {8, "+"},
+      {22, "-"}, {10, "+"}, {24, "+"}, {12, "+"}, {26, "-"}, {44, "+"}, {46, "+"}, {14, "-"}};
+  for (const auto& [index, text] : captions) cell(index).caption = text;
+  state.SolNumbers[1] = " 1";
+  state.SolNumbers[16] = " 9";  // out of reach of the moves below, so that play goes on
+  press(28);
+  EXPECT_EQ(captionsOf({7, 21, 35, 43, 45, 47}), "314241");
+  EXPECT_EQ(caption(49), "6") << "column 7: 3 - 1 + 4";
+  press(46);
+  EXPECT_EQ(caption(49), "5") << "row 7: 2 + 4 - 1";
+  press(14);
+  EXPECT_EQ(caption(49), "7") << "column 7: 3 * 1 + 4";
+  press(44);
+  EXPECT_EQ(caption(49), "?") << "row 7: 2 - 4 - 1";
+  press(44);
+  EXPECT_EQ(caption(49), "7") << "row 7: 2 * 4 - 1";
+  press(16);
+  EXPECT_EQ(captionsOf({21, 49}), "??") << "row 3: 2 - 2 - 3";
+}
+
+}  // namespace
+}  // namespace tessoro::test

@@ -1,0 +1,11 @@
+#include <gtest/gtest.h>
+
+#include "window_fixture.h"
+
+int main(int argc, char* argv[]) {
+  testing::InitGoogleTest(&argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qt::QtDesktop desktop(argv[0], {.name = "Tessoro", .messageTitle = "TESSORO"});
+  tessoro::test::theDesktop = &desktop;
+  return RUN_ALL_TESTS();
+}
