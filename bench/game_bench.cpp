@@ -13,6 +13,9 @@ class NoWindows final : public platform::Desktop {
   Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override { return Answer::ok; }
   void yield() override {}
   double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  void showModal(platform::Form& /*form*/) override {}
+  platform::Printer& printer() override { std::abort(); }
+  platform::HelpViewer& helpViewer() override { std::abort(); }
   [[noreturn]] void endProgram() override { std::exit(EXIT_SUCCESS); }
 
  private:

@@ -18,6 +18,16 @@ class Form1 final : public platform::Form {
   Cell Solveit;
 
   platform::MenuItem Gamex{"Puzzle"};
+  platform::MenuItem StartSolx{"Start a Solution"};
+  platform::MenuItem ShowSolx{"Show Solution"};
+  platform::MenuItem dash1{"-"};
+  platform::MenuItem SolveMx{"Set a Puzzle for computer to solve"};
+  platform::MenuItem dash2{"-"};
+  platform::MenuItem PrintX{"Print"};
+  platform::MenuItem dash3{"-"};
+  platform::MenuItem Helpx{"Help"};
+  platform::MenuItem Aboutx{"About"};
+  platform::MenuItem xx1{"-"};
   platform::MenuItem Exitx{"Exit"};
 };
 

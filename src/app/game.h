@@ -1,14 +1,19 @@
 #pragma once
 
 #include "app/form1.h"
+#include "app/shell.h"
 #include "board/puzzle_state.h"
 #include "board/start_up.h"
 #include "platform/desktop.h"
 #include "play/corner_check.h"
 #include "play/moves.h"
+#include "play/new_game.h"
+#include "play/solution_display.h"
+#include "print/print_command.h"
 #include "print/print_page.h"
 #include "rules/results.h"
 #include "solver/digits.h"
+#include "solver/set_a_puzzle.h"
 #include "solver/solution_search.h"
 
 namespace tessoro {
@@ -27,12 +32,15 @@ class Game {
   SolutionSearch search;
   CornerCheck cornerCheck;
   Moves moves;
+  SolutionDisplay solutionDisplay;
+  SetAPuzzle setAPuzzle;
+  NewGame newGame;
+  PrintCommand printCommand;
+  Shell shell;
   StartUp startUp;
 
  private:
   void connectEvents();
-
-  platform::Desktop& desktop_;
 };
 
 }  // namespace tessoro

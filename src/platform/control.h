@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -51,10 +52,28 @@ class PictureBox final : public Control {
   const Picture* picture = nullptr;
 };
 
+/// Lines of text that can be read but not changed, centred, on the button-face colour.
+class TextBox final : public Control {
+ public:
+  std::string text;
+  Font font;
+  /// Any mouse button went down over the text.
+  std::function<void()> mouseDown;
+};
+
+/// A button as the desktop draws it, worked by mouse or keyboard.
+class CommandButton final : public Control {
+ public:
+  std::string caption;
+  Font font;
+  std::function<void()> click;
+};
+
 class CellPane;
 struct Frame;
 
-using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*>;
+using ControlRef =
+    std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
 
 /// The controls that a form or a frame holds, from the one farthest back to the one in front.
 using Controls = std::vector<ControlRef>;

@@ -2,6 +2,10 @@
 
 #include <string_view>
 
+#include "platform/form.h"
+#include "platform/help_viewer.h"
+#include "platform/printer.h"
+
 namespace platform {
 
 /// What the program asks of the desktop it runs on, besides showing its controls.
@@ -24,6 +28,13 @@ class Desktop {
 
   /// The local time of day in seconds since midnight, with fractions: 0 <= t < 86400.
   virtual double secondsSinceMidnight() = 0;
+
+  /// Shows the form modal over the main window, which takes no input meanwhile, and returns when the
+  /// form has been closed.
+  virtual void showModal(Form& form) = 0;
+
+  virtual Printer& printer() = 0;
+  virtual HelpViewer& helpViewer() = 0;
 
   /// Ends the program at once: no further handler runs, and the windows close with it.
   [[noreturn]] virtual void endProgram() = 0;

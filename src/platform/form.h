@@ -34,6 +34,9 @@ class Form : public Observable {
   const Picture* icon = nullptr;
   std::vector<MenuItem*> menus;
   Controls controls;
+  /// Whether a modal form is open: true from its being shown until it is set to false, which closes
+  /// it.
+  Property<bool> Visible{*this, false};
   /// The user has told the window to close.
   std::function<void()> unload;
 

@@ -103,19 +103,19 @@ void listen(Frame& /*frame*/, const std::function<void()>& /*listener*/) {}
 
 }  // namespace
 
-void drawControl(const platform::ControlRef& control, const Look& look, const Canvas& canvas) {
+void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas) {
   std::visit([&](const auto* it) { draw(*it, look, canvas); }, control);
 }
 
-Look lookOf(const platform::ControlRef& control) {
+Look lookOf(const DrawnControl& control) {
   return std::visit([](const auto* it) { return look(*it); }, control);
 }
 
-const platform::Place& placeOf(const platform::ControlRef& control) {
+const platform::Place& placeOf(const DrawnControl& control) {
   return std::visit([](const auto* it) -> const platform::Place& { return it->place; }, control);
 }
 
-void onChange(const platform::ControlRef& control, std::function<void()> listener) {
+void onChange(const DrawnControl& control, std::function<void()> listener) {
   std::visit([&](auto* it) { listen(*it, std::move(listener)); }, control);
 }
 

@@ -17,11 +17,11 @@ struct Canvas {
   double logicalDpi;
 };
 
-void drawControl(const platform::ControlRef& control, const Look& look, const Canvas& canvas);
+void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);
 
-Look lookOf(const platform::ControlRef& control);
-const platform::Place& placeOf(const platform::ControlRef& control);
+Look lookOf(const DrawnControl& control);
+const platform::Place& placeOf(const DrawnControl& control);
 /// Has `listener` called when a property of the control changes.
-void onChange(const platform::ControlRef& control, std::function<void()> listener);
+void onChange(const DrawnControl& control, std::function<void()> listener);
 
 }  // namespace qt

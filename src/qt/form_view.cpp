@@ -3,12 +3,14 @@
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <cmath>
 #include <ranges>
 
 #include "platform/cell_pane.h"
 #include "qt/draw_control.h"
 #include "qt/look.h"
+#include "qt/text_view.h"
 
 namespace qt {
 namespace {
@@ -63,21 +65,40 @@ FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFixedSize(static_cast<int>(std::lround(form.clientWidth / twipsPerPixel)),
                static_cast<int>(std::lround(form.clientHeight / twipsPerPixel)));
-  add(form.controls, 0, 0);
+  addAll(form.controls, 0, 0);
 }
 
-void FormView::add(const platform::Controls& controls, int left, int top) {
+void FormView::addAll(const platform::Controls& controls, int left, int top) {
   for (const platform::ControlRef& control : controls) {
-    platform::Place place = placeOf(control);
-    place.left += left;
-    place.top += top;
-    const std::size_t index = items_.size();
-    items_.push_back({control, place, lookOf(control)});
-    onChange(control, [this, index] { markStale(index); });
-    if (const auto* const* frame = std::get_if<platform::Frame*>(&control)) {
-      add((*frame)->controls, place.left, place.top);
-    }
+    std::visit([&](auto* it) { add(*it, left, top); }, control);
   }
+}
+
+template <typename Control>
+void FormView::add(Control& control, int left, int top) {
+  const std::size_t index = items_.size();
+  const platform::Place& place = control.place;
+  items_.push_back({&control,
+                    {left + place.left, top + place.top, place.width, place.height},
+                    lookOf(&control)});
+  onChange(&control, [this, index] { markStale(index); });
+}
+
+void FormView::add(platform::Frame& frame, int left, int top) {
+  add<platform::Frame>(frame, left, top);
+  addAll(frame.controls, left + frame.place.left, top + frame.place.top);
+}
+
+void FormView::add(platform::TextBox& box, int /*left*/, int /*top*/) {
+  auto* view = new TextView(box, this);
+  view->setGeometry(pixelRect(box.place, 1, {}));
+}
+
+void FormView::add(platform::CommandButton& button, int /*left*/, int /*top*/) {
+  auto* view = new QPushButton(toQString(button.caption), this);
+  view->setFont(toQFont(button.font, 1, logicalDpiY()));
+  view->setGeometry(pixelRect(button.place, 1, {}));
+  connect(view, &QPushButton::clicked, this, [&button] { button.click(); });
 }
 
 void FormView::markStale(std::size_t item) {
@@ -182,7 +203,7 @@ void FormView::mousePressEvent(QMouseEvent* event) {
 void FormView::mouseReleaseEvent(QMouseEvent* event) {
   if (pressed_ == nullptr) return;
   const Item* item = itemAt(event->position());
-  const bool inside = item != nullptr && item->control == platform::ControlRef(pressed_);
+  const bool inside = item != nullptr && item->control == DrawnControl(pressed_);
   pressed_->release(toMouseButton(event->button()), inside);
 }
 

@@ -8,6 +8,10 @@
 
 namespace qt {
 
+/// The controls that a form's view draws itself; the others are widgets of the toolkit.
+using DrawnControl =
+    std::variant<platform::CellPane*, platform::Label*, platform::PictureBox*, platform::Frame*>;
+
 /// What a control shows at the moment.
 struct Look {
   bool visible = true;
@@ -40,13 +44,18 @@ class FormView final : public QWidget {
 
  private:
   struct Item {
-    platform::ControlRef control;
+    DrawnControl control;
     platform::Place place;  ///< in the client area, twips
     Look look;              ///< as the screen shows it, or will after the next repaint
     bool stale = false;     ///< the control may look different by now
   };
 
-  void add(const platform::Controls& controls, int left, int top);
+  void addAll(const platform::Controls& controls, int left, int top);
+  template <typename Control>
+  void add(Control& control, int left, int top);
+  void add(platform::Frame& frame, int left, int top);
+  void add(platform::TextBox& box, int left, int top);
+  void add(platform::CommandButton& button, int left, int top);
   void markStale(std::size_t item);
   void refreshStale();
   /// The part of an item that no other in front of it covers.

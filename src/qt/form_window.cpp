@@ -9,18 +9,6 @@
 #include "qt/look.h"
 
 namespace qt {
-namespace {
-
-QIcon toQIcon(const platform::Picture& picture) {
-  QIcon icon;
-  for (const int size : {16, 32, 48, 64, 128}) {
-    icon.addPixmap(QPixmap::fromImage(toQImage(picture, size)));
-  }
-  return icon;
-}
-
-}  // namespace
-
 FormWindow::FormWindow(platform::Form& form, QWidget* parent)
     : QMainWindow(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                               Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |

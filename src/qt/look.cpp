@@ -47,8 +47,17 @@ QImage toQImage(const platform::Picture& picture, int size) {
       .scaled(size, size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+QIcon toQIcon(const platform::Picture& picture) {
+  QIcon icon;
+  for (const int size : {16, 32, 48, 64, 128}) {
+    icon.addPixmap(QPixmap::fromImage(toQImage(picture, size)));
+  }
+  return icon;
+}
+
 void substituteFonts() {
   QFont::insertSubstitution("Arial", "Liberation Sans");
+  QFont::insertSubstitution("Courier", "Liberation Mono");
   QFont::insertSubstitution("MS Sans Serif", QApplication::font().family());
 }
 

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QIcon>
 #include <QImage>
 #include <QPalette>
 #include <QString>
@@ -29,6 +30,9 @@ QFont toQFont(const platform::Font& font, double scale, double logicalDpi);
 /// The picture at `size` by `size` pixels: sharp at whole multiples of its own size, smooth at
 /// others.
 QImage toQImage(const platform::Picture& picture, int size);
+
+/// The picture as the icon of a window, in the usual sizes.
+QIcon toQIcon(const platform::Picture& picture);
 
 /// Names the stand-ins of the typefaces that a machine may not have.
 void substituteFonts();

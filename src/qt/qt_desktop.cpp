@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "qt/form_dialog.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
 
@@ -24,13 +25,23 @@ void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
 
 }  // namespace
 
-QtDesktop::QtDesktop(char* programPath, Program program)
-    : program_(std::move(program)), arguments_{1, {programPath, nullptr}} {
-  programName = program_.name;
+std::unique_ptr<QApplication> QtDesktop::connect(Arguments& arguments, const Program& program) {
+  programName = program.name;
   const QtMessageHandler handler = qInstallMessageHandler(reportNoDisplay);
-  application_ = std::make_unique<QApplication>(arguments_.count, arguments_.values);
+  auto application = std::make_unique<QApplication>(arguments.count, arguments.values);
   qInstallMessageHandler(handler);
+  return application;
+}
 
+QtDesktop::QtDesktop(char* programPath, Program program)
+    : program_(std::move(program)),
+      arguments_{1, {programPath, nullptr}},
+      application_(connect(arguments_, program_)),
+      printer_(toQString(program_.documentName),
+               [this](std::string_view text) { messageBox(text, Buttons::ok); }),
+      helpViewer_({QApplication::applicationDirPath(), QApplication::applicationDirPath() +
+                                                           "/../share/" +
+                                                           toQString(program_.dataFolder)}) {
   QApplication::setApplicationName(toQString(program_.name));
   substituteFonts();
 }
@@ -50,9 +61,9 @@ platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons b
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
 
-void QtDesktop::yield() {
-  QApplication::processEvents();
-}
+void QtDesktop::yield() { QApplication::processEvents(); }
+
+void QtDesktop::showModal(platform::Form& form) { FormDialog(form, main_.get()).show(); }
 
 void QtDesktop::endProgram() {
   // Leaving through the event loop would let more handlers run; the windows go with the process.
@@ -61,6 +72,7 @@ void QtDesktop::endProgram() {
 
 FormWindow& QtDesktop::show(platform::Form& form) {
   main_ = std::make_unique<FormWindow>(form);
+  printer_.setParentWindow(main_.get());
   main_->show();
   return *main_;
 }

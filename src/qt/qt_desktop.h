@@ -7,6 +7,8 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/form.h"
+#include "qt/help_window.h"
+#include "qt/qt_printer.h"
 
 namespace qt {
 
@@ -16,6 +18,8 @@ class FormWindow;
 struct Program {
   std::string name;
   std::string messageTitle;  ///< the title of every message box
+  std::string documentName;  ///< of what is printed
+  std::string dataFolder;    ///< the name of its folder of data files, beside others' in "share"
 };
 
 /// The desktop as the toolkit gives it.
@@ -28,6 +32,9 @@ class QtDesktop final : public platform::Desktop {
 
   Answer messageBox(std::string_view text, Buttons buttons) override;
   void yield() override;
+  void showModal(platform::Form& form) override;
+  platform::Printer& printer() override { return printer_; }
+  platform::HelpViewer& helpViewer() override { return helpViewer_; }
   double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
   [[noreturn]] void endProgram() override;
 
@@ -43,10 +50,14 @@ class QtDesktop final : public platform::Desktop {
     char* values[2];
   };
 
+  static std::unique_ptr<QApplication> connect(Arguments& arguments, const Program& program);
+
   Program program_;
   Arguments arguments_;
   std::unique_ptr<QApplication> application_;
   std::unique_ptr<FormWindow> main_;
+  QtPrinter printer_;
+  QtHelpViewer helpViewer_;
   platform::Clock clock_;
 };
 

@@ -15,6 +15,28 @@ namespace tessoro::test {
 
 struct ProgramEnded {};
 
+/// Keeps what is printed, and the order of what is asked of the printer.
+class Sheet final : public platform::Printer {
+ public:
+  void setFontName(std::string_view name) override { lines.push_back("font " + std::string(name)); }
+  void setFontSize(double points) override { lines.push_back("size " + std::to_string(points)); }
+  void printLine(std::string_view text) override { lines.emplace_back(text); }
+  void endDocument() override { lines.emplace_back("end"); }
+
+  std::vector<std::string> lines;
+};
+
+struct HelpRequests final : platform::HelpViewer {
+  bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
+                unsigned data) override {
+    requests.push_back(owner.caption() + "/" + std::string(file) + "/" + std::to_string(command) +
+                       "/" + std::to_string(data));
+    return false;
+  }
+
+  std::vector<std::string> requests;
+};
+
 /// A desktop without windows: the test answers its boxes and runs handlers while it yields.
 class FakeDesktop final : public platform::Desktop {
  public:
@@ -27,9 +49,19 @@ class FakeDesktop final : public platform::Desktop {
     if (onYield) onYield();
   }
   double secondsSinceMidnight() override { return clock += tick; }
+  void showModal(platform::Form& form) override {
+    form.Visible = true;
+    if (onModal) onModal(form);
+    EXPECT_FALSE(form.Visible()) << "nothing else would close the box";
+  }
+  platform::Printer& printer() override { return sheet; }
+  platform::HelpViewer& helpViewer() override { return help; }
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
   std::vector<std::string> messages;
+  Sheet sheet;
+  HelpRequests help;
+  std::function<void(platform::Form&)> onModal;
   Answer answer = Answer::no;
   std::function<void()> onYield;
   int yields = 0;
@@ -100,13 +132,14 @@ class GameTest : public testing::Test {
     for (int presses = 0; caption(index) != text && presses < 10; ++presses) press(index);
     ASSERT_EQ(caption(index), text);
   }
-  /// Plays the stored solution, but for one number cell and the operators and numbers given.
+  /// Plays the stored solution but for one number, or less of it where that is enough for the four
+  /// corners.
   void playSolution(int leaveOut = 0) {
     for (int k = 1; k <= 16; ++k) {
-      if (cell(numberCells[k]).enabled() && numberCells[k] != leaveOut) {
+      if (cell(numberCells[k]).enabled() && numberCells[k] != leaveOut && !state.BoardLocked) {
         turnTo(numberCells[k], std::string(trimmed(state.SolNumbers[k])));
       }
-      turnTo(operatorCells[k], state.SolOperators[k]);
+      if (!state.BoardLocked) turnTo(operatorCells[k], state.SolOperators[k]);
     }
   }
 };

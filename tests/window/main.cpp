@@ -5,7 +5,10 @@
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qt::QtDesktop desktop(argv[0], {.name = "Tessoro", .messageTitle = "TESSORO"});
+  qt::QtDesktop desktop(argv[0], {.name = "Tessoro",
+                                 .messageTitle = "TESSORO",
+                                 .documentName = "Tessoro puzzles",
+                                 .dataFolder = "tessoro"});
   tessoro::test::theDesktop = &desktop;
   return RUN_ALL_TESTS();
 }

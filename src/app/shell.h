@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/desktop.h"
+#include "platform/form.h"
+
+namespace tessoro {
+
+/// The commands of the menu that have nothing to do with the puzzle.
+class Shell {
+ public:
+  Shell(const platform::Form& Form1, platform::Desktop& desktop)
+      : Form1_(Form1), desktop_(desktop) {}
+
+  /// Opens the help file at its contents.
+  void Helpx_Click();
+  /// Shows the About box; returns when it has been closed.
+  void Aboutx_Click();
+  /// Ends the program at once.
+  void Exitx_Click();
+
+ private:
+  const platform::Form& Form1_;
+  platform::Desktop& desktop_;
+};
+
+}  // namespace tessoro

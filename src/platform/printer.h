@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string_view>
+
+namespace platform {
+
+/// Prints lines of text, one below the other, at 6 lines to the inch. A document begins with the
+/// first line after the last document's end.
+class Printer {
+ public:
+  Printer() = default;
+  Printer(const Printer&) = delete;
+  Printer& operator=(const Printer&) = delete;
+  virtual ~Printer() = default;
+
+  /// The typeface, in which every character is as wide as the next, and its size in points.
+  virtual void setFontName(std::string_view name) = 0;
+  virtual void setFontSize(double points) = 0;
+
+  virtual void printLine(std::string_view text = "") = 0;
+
+  /// Ends the document and releases it to the printer. Should that fail, the user is told.
+  virtual void endDocument() = 0;
+};
+
+}  // namespace platform

@@ -1,0 +1,34 @@
+#include "qt/form_dialog.h"
+
+#include <QVBoxLayout>
+
+#include "qt/form_view.h"
+#include "qt/look.h"
+
+namespace qt {
+
+FormDialog::FormDialog(platform::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+  setWindowTitle(toQString(form.caption()));
+  if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
+  auto* box = new QVBoxLayout(this);
+  box->setContentsMargins(0, 0, 0, 0);
+  box->setSizeConstraint(QLayout::SetFixedSize);
+  box->addWidget(new FormView(form, this));
+  setWindowModality(Qt::WindowModal);
+  form.changed = [this] {
+    if (!form_.Visible()) accept();
+  };
+}
+
+FormDialog::~FormDialog() { form_.changed = nullptr; }
+
+void FormDialog::show() {
+  form_.Visible = true;
+  exec();
+}
+
+void FormDialog::reject() {
+  if (form_.unload) form_.unload();
+}
+
+}  // namespace qt

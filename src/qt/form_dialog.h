@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QDialog>
+
+#include "platform/form.h"
+
+namespace qt {
+
+/// A modal box that shows a form while the form is `Visible`.
+class FormDialog final : public QDialog {
+ public:
+  FormDialog(platform::Form& form, QWidget* parent);
+  ~FormDialog() override;
+
+  /// Shows the form, and returns when it has been closed.
+  void show();
+
+  /// The user has told the box to close, by its close command or the Escape key.
+  void reject() override;
+
+ private:
+  platform::Form& form_;
+};
+
+}  // namespace qt

@@ -1,0 +1,81 @@
+#include "qt/help_window.h"
+
+#include <QDir>
+#include <QFile>
+#include <QStringDecoder>
+#include <QToolBar>
+
+#include "qt/look.h"
+
+namespace qt {
+namespace {
+
+/// Why the file cannot be shown, in one sentence; empty if it can.
+QString faultOf(const QString& path) {
+  const QString name = QFileInfo(path).fileName();
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    return QString("The help file \"%1\" cannot be found.").arg(name);
+  }
+  const QByteArray content = file.readAll();
+  if (content.trimmed().isEmpty()) return QString("The help file \"%1\" is empty.").arg(name);
+  QStringDecoder decoder(QStringDecoder::Utf8);
+  const QString text = decoder(content);
+  if (decoder.hasError() || text.contains(QChar::Null)) {
+    return QString("The help file \"%1\" is damaged: it is not a text.").arg(name);
+  }
+  return {};
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow() : text_(new QTextBrowser(this)) {
+  setWindowTitle("Tessoro Help");
+  setCentralWidget(text_);
+  resize(560, 620);
+  text_->setOpenExternalLinks(false);
+  QToolBar* bar = addToolBar("Navigation");
+  bar->setMovable(false);
+  bar->setContextMenuPolicy(Qt::PreventContextMenu);
+  QAction* contents = bar->addAction("Contents");
+  connect(contents, &QAction::triggered, text_, &QTextBrowser::home);
+  QAction* back = bar->addAction("Back");
+  back->setEnabled(false);
+  connect(back, &QAction::triggered, text_, &QTextBrowser::backward);
+  connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+}
+
+bool HelpWindow::showContents(const QString& path) {
+  const QString fault = faultOf(path);
+  if (fault.isEmpty()) {
+    text_->setSource(QUrl::fromLocalFile(path), QTextDocument::HtmlResource);
+    text_->clearHistory();
+    text_->scrollToAnchor("contents");
+  } else {
+    text_->setPlainText(fault);
+  }
+  showNormal();
+  raise();
+  activateWindow();
+  return fault.isEmpty();
+}
+
+bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,
+                            unsigned /*command*/, unsigned /*data*/) {
+  const QString name = toQString(file);
+  QString path = name;
+  for (const QString& folder : folders_) {
+    const QString candidate = QDir(folder).filePath(name);
+    if (QFile::exists(candidate)) {
+      path = candidate;
+      break;
+    }
+  }
+  if (!window_) {
+    window_ = std::make_unique<HelpWindow>();
+    if (owner.icon != nullptr) window_->setWindowIcon(toQIcon(*owner.icon));
+  }
+  return window_->showContents(path);
+}
+
+}  // namespace qt

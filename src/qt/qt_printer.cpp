@@ -1,0 +1,123 @@
+#include "qt/qt_printer.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinterInfo>
+#include <QProcess>
+#include <QSaveFile>
+#include <QTemporaryFile>
+#include <algorithm>
+
+#include "qt/look.h"
+
+namespace qt {
+namespace {
+
+constexpr double pointsPerInch = 72;
+constexpr double linePitch = pointsPerInch / 6;
+/// What printers may not be able to reach at the edges of the paper, in points.
+constexpr double smallestMargin = pointsPerInch / 4;
+
+/// The width of a character of the fixed-pitch typefaces that `font` may be, in ems: 12 points make
+/// 10 characters to the inch.
+constexpr double characterWidth = 0.6;
+
+QPageSize usualPaper() {
+  const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
+  return QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
+}
+
+QPrinterInfo printerToUse() {
+  QPrinterInfo printer = QPrinterInfo::defaultPrinter();
+  if (!printer.isNull()) return printer;
+  const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
+  return all.isEmpty() ? printer : all.first();
+}
+
+}  // namespace
+
+void QtPrinter::printLine(std::string_view text) { lines_.append(toQString(text)); }
+
+QByteArray QtPrinter::sheet(const QPageSize& paper) const {
+  QBuffer buffer;
+  QPdfWriter writer(&buffer);
+  writer.setTitle(documentName_);
+  writer.setPageSize(paper);
+  writer.setPageOrientation(QPageLayout::Portrait);
+  writer.setPageMargins({});
+  QPainter painter(&writer);
+  painter.scale(writer.logicalDpiX() / pointsPerInch, writer.logicalDpiY() / pointsPerInch);
+
+  qsizetype columns = 1;
+  for (const QString& line : lines_) columns = std::max(columns, line.size());
+  const double width = static_cast<double>(columns) * font_.points * characterWidth;
+  const double height = static_cast<double>(lines_.size()) * linePitch;
+  const QSizeF page = paper.size(QPageSize::Point);
+  const double scale = std::min({1.0, (page.width() - 2 * smallestMargin) / width,
+                                 (page.height() - 2 * smallestMargin) / height});
+  painter.translate((page.width() - width * scale) / 2, (page.height() - height * scale) / 2);
+  painter.scale(scale, scale);
+
+  QFont font(toQString(font_.name));
+  font.setStyleHint(QFont::TypeWriter);
+  font.setFixedPitch(true);
+  font.setPixelSize(static_cast<int>(font_.points));
+  painter.setFont(font);
+  // A stand-in of another width is stretched, so that columns stand where they should.
+  const QString widest(columns, 'M');
+  const double stretch = width / QFontMetricsF(font, &writer).horizontalAdvance(widest);
+  painter.scale(stretch, 1);
+  double baseline = QFontMetricsF(font, &writer).ascent();
+  for (const QString& line : lines_) {
+    painter.drawText(QPointF(0, baseline), line);
+    baseline += linePitch;
+  }
+  painter.end();
+  return buffer.data();
+}
+
+void QtPrinter::endDocument() {
+  const QPrinterInfo printer = printerToUse();
+  if (printer.isNull()) {
+    saveAsPdf();
+  } else {
+    const QPageSize paper = printer.defaultPageSize();
+    sendToPrinter(printer.printerName(), paper.isValid() ? paper : usualPaper());
+  }
+  lines_.clear();
+}
+
+void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
+  QTemporaryFile file(QDir::tempPath() + "/XXXXXX.pdf");
+  const QByteArray pdf = sheet(paper);
+  // The print system's own command is used because the toolkit's printing does not tell whether
+  // the job has been accepted.
+  QProcess job;
+  if (file.open() && file.write(pdf) == pdf.size() && file.flush()) {
+    job.start("lp", {"-d", printer, "-t", documentName_, file.fileName()});
+    job.waitForFinished();
+    if (job.error() == QProcess::UnknownError && job.exitStatus() == QProcess::NormalExit &&
+        job.exitCode() == 0) {
+      return;
+    }
+  }
+  report_("The page could not be sent to the printer. It can be printed again.");
+}
+
+void QtPrinter::saveAsPdf() {
+  const QString name = QFileDialog::getSaveFileName(
+      window_, "No printer was found: save the page as PDF",
+      QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
+  if (name.isEmpty()) return;
+  QSaveFile file(name);
+  const QByteArray pdf = sheet(usualPaper());
+  if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit()) return;
+  report_("The page could not be saved there. It can be printed again.");
+}
+
+}  // namespace qt

@@ -1,0 +1,22 @@
+#include "qt/text_view.h"
+
+#include "qt/look.h"
+
+namespace qt {
+
+TextView::TextView(const platform::TextBox& box, QWidget* parent) : QTextEdit(parent), box_(box) {
+  setReadOnly(true);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  viewport()->setAutoFillBackground(false);
+  setFont(toQFont(box.font, 1, logicalDpiY()));
+  setAlignment(Qt::AlignCenter);
+  setPlainText(toQString(box.text));
+}
+
+void TextView::mousePressEvent(QMouseEvent* /*event*/) {
+  if (box_.mouseDown) box_.mouseDown();
+}
+
+}  // namespace qt

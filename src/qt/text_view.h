@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QTextEdit>
+
+#include "platform/control.h"
+
+namespace qt {
+
+/// Shows a text box.
+class TextView final : public QTextEdit {
+ public:
+  TextView(const platform::TextBox& box, QWidget* parent);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  const platform::TextBox& box_;
+};
+
+}  // namespace qt
