@@ -44,8 +44,8 @@ Form1::Form1() {
   Frame1.controls.insert(Frame1.controls.end(), {&RightMess, &CompMess, &NewPuz, &Solveit});
   controls = {&board.GridDisp[0], &Frame1};
 
-  Gamex.items = {&StartSolx, &ShowSolx, &dash1, &SolveMx, &dash2, &PrintX,
-                 &dash3,     &Helpx,    &Aboutx, &xx1,   &Exitx};
+  Gamex.items = {&StartSolx, &ShowSolx, &dash1,  &SolveMx, &dash2, &PrintX,
+                 &dash3,     &Helpx,    &Aboutx, &xx1,     &Exitx};
   menus = {&Gamex};
 }
 

@@ -27,10 +27,8 @@ void Game::connectEvents() {
   };
 
   for (int cell = 0; cell < boardCells; ++cell) {
-    form.board.GridDisp[cell].mouseDown =
-        unlessSearching([this, cell](const platform::MousePress& press) {
-          moves.GridDisp_MouseDown(cell, press);
-        });
+    form.board.GridDisp[cell].mouseDown = unlessSearching(
+        [this, cell](const platform::MousePress& press) { moves.GridDisp_MouseDown(cell, press); });
   }
   form.NewPuz.click = unlessSearching([this] { newGame.NewPuz_Click(); });
   form.Solveit.click = unlessSearching([this] { setAPuzzle.Solveit_Click(); });

@@ -4,9 +4,9 @@
 
 int main(int /*argc*/, char* argv[]) {
   qt::QtDesktop desktop(argv[0], {.name = "Tessoro",
-                                 .messageTitle = "TESSORO",
-                                 .documentName = "Tessoro puzzles",
-                                 .dataFolder = "tessoro"});
+                                  .messageTitle = "TESSORO",
+                                  .documentName = "Tessoro puzzles",
+                                  .dataFolder = "tessoro"});
   tessoro::ReseededDigits digits(desktop);
   tessoro::Game game(desktop, digits);
   game.startUp.Form_Load();

@@ -13,6 +13,8 @@ void Shell::Aboutx_Click() {
   desktop_.showModal(box);
 }
 
-void Shell::Exitx_Click() { desktop_.endProgram(); }
+void Shell::Exitx_Click() {
+  desktop_.endProgram();
+}
 
 }  // namespace tessoro

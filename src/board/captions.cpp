@@ -22,7 +22,7 @@ std::int16_t readNumber(std::string_view caption) {
   if (text.size() == 1) return static_cast<std::int16_t>(isDigit(text[0]) ? text[0] - '0' : 0);
   // Letters are cut off first, since the library would take "inf" for a number.
   std::string_view decimal = text.substr(0, text.find_first_not_of("+-.0123456789"));
-  if (decimal.starts_with('+')) decimal.remove_prefix(1);
+  if (decimal.starts_with('+') && !decimal.starts_with("+-")) decimal.remove_prefix(1);
   double value = 0;
   std::from_chars(decimal.data(), decimal.data() + decimal.size(), value, std::chars_format::fixed);
   using Limits = std::numeric_limits<std::int16_t>;

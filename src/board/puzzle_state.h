@@ -25,9 +25,9 @@ constexpr platform::Colour ColWhite = platform::palette[15];
 
 /// The puzzle, besides the captions on the board, which are the player's position.
 struct PuzzleState {
-  /// The solution's numbers by matrix row, four to a row, each with a leading blank (" 7"), and its
-  /// operators: 1..8 of the rows, 9..16 of the columns. `numberCells` and `operatorCells` say
-  /// where each belongs; element 0 is not used.
+  /// The solution's numbers by matrix row, four to a row, each a digit 1..9 with a leading blank
+  /// (" 7"), and its operators "+", "-" or "*": 1..8 of the rows, 9..16 of the columns.
+  /// `numberCells` and `operatorCells` say where each belongs; element 0 is not used.
   std::array<std::string, 17> SolNumbers;
   std::array<std::string, 17> SolOperators;
 

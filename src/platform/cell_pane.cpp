@@ -4,9 +4,11 @@ namespace platform {
 
 void CellPane::press(const MousePress& press) {
   if (!takesInput()) return;
-  armed_ = press.button == MouseButton::left;
+  if (press.button == MouseButton::left) armed_ = true;
   if (mouseDown) mouseDown(press);
-  if (press.button == MouseButton::right && contextMenu) contextMenu(press.shift, press.x, press.y);
+  if (press.button == MouseButton::right && contextMenu && takesInput()) {
+    contextMenu(press.shift, press.x, press.y);
+  }
 }
 
 void CellPane::release(MouseButton button, bool inside) {

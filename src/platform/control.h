@@ -72,8 +72,7 @@ class CommandButton final : public Control {
 class CellPane;
 struct Frame;
 
-using ControlRef =
-    std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
+using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
 
 /// The controls that a form or a frame holds, from the one farthest back to the one in front.
 using Controls = std::vector<ControlRef>;

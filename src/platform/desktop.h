@@ -29,8 +29,8 @@ class Desktop {
   /// The local time of day in seconds since midnight, with fractions: 0 <= t < 86400.
   virtual double secondsSinceMidnight() = 0;
 
-  /// Shows the form modal over the main window, which takes no input meanwhile, and returns when the
-  /// form has been closed.
+  /// Shows the form modal over the main window, which takes no input meanwhile, and returns when
+  /// the form has been closed.
   virtual void showModal(Form& form) = 0;
 
   virtual Printer& printer() = 0;

@@ -5,8 +5,9 @@
 namespace tessoro {
 
 bool CornerCheck::isRight(int k) const {
-  return readNumber(board_.GridDisp[CornerCells[k]].caption()) ==
-         readNumber(state_.SolNumbers[cornerNumbers[k]]);
+  // Without a puzzle both read as 0, and nothing is right.
+  const int number = readNumber(state_.SolNumbers[cornerNumbers[k]]);
+  return number != 0 && number == readNumber(board_.GridDisp[CornerCells[k]].caption());
 }
 
 void CornerCheck::CheckCorners() {

@@ -20,9 +20,9 @@ class Moves {
         RightMess_(RightMess),
         Solveit_(Solveit) {}
 
-  /// A mouse button went down on cell `Index`. The right button steps a number down, any other up;
-  /// an operator moves on with every button. There is no guard against result, "=" or hole cells:
-  /// they are disabled and raise no event.
+  /// A mouse button went down on cell `Index`, 0..53; on one above 49 it does nothing. The right
+  /// button steps a number down, any other up; an operator moves on with every button. There is no
+  /// guard against result, "=" or hole cells: they are disabled and raise no event.
   void GridDisp_MouseDown(int Index, const platform::MousePress& press);
 
  private:

@@ -20,6 +20,7 @@ class PrintPage {
 
   PrintPage(const Board& board, const PuzzleState& state) : board_(board), state_(state) {}
 
+  /// Element k is the k-th line of the page. A line is 70 characters wide, a heading less.
   std::array<std::string, 81> PrintLines;
 
   /// Lays out three slots of empty grids.

@@ -13,14 +13,23 @@ FormDialog::FormDialog(platform::Form& form, QWidget* parent) : QDialog(parent),
   auto* box = new QVBoxLayout(this);
   box->setContentsMargins(0, 0, 0, 0);
   box->setSizeConstraint(QLayout::SetFixedSize);
-  box->addWidget(new FormView(form, this));
+  auto* view = new FormView(form, this);
+  box->addWidget(view);
+  for (QWidget* child : view->findChildren<QWidget*>()) {
+    if ((child->focusPolicy() & Qt::TabFocus) != 0) {
+      child->setFocus();
+      break;
+    }
+  }
   setWindowModality(Qt::WindowModal);
   form.changed = [this] {
     if (!form_.Visible()) accept();
   };
 }
 
-FormDialog::~FormDialog() { form_.changed = nullptr; }
+FormDialog::~FormDialog() {
+  form_.changed = nullptr;
+}
 
 void FormDialog::show() {
   form_.Visible = true;

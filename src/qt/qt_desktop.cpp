@@ -18,7 +18,7 @@ std::string programName;
 void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
                      const QString& /*message*/) {
   if (type != QtFatalMsg) return;
-  std::fprintf(stderr, "%s: cannot open a window, because there is no display.\n",
+  std::fprintf(stderr, "%s: cannot open a window, because there is no display to open it on.\n",
                programName.c_str());
   std::_Exit(EXIT_FAILURE);
 }
@@ -39,9 +39,9 @@ QtDesktop::QtDesktop(char* programPath, Program program)
       application_(connect(arguments_, program_)),
       printer_(toQString(program_.documentName),
                [this](std::string_view text) { messageBox(text, Buttons::ok); }),
-      helpViewer_({QApplication::applicationDirPath(), QApplication::applicationDirPath() +
-                                                           "/../share/" +
-                                                           toQString(program_.dataFolder)}) {
+      helpViewer_(
+          {QApplication::applicationDirPath(),
+           QApplication::applicationDirPath() + "/../share/" + toQString(program_.dataFolder)}) {
   QApplication::setApplicationName(toQString(program_.name));
   substituteFonts();
 }
@@ -61,9 +61,13 @@ platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons b
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
 
-void QtDesktop::yield() { QApplication::processEvents(); }
+void QtDesktop::yield() {
+  QApplication::processEvents();
+}
 
-void QtDesktop::showModal(platform::Form& form) { FormDialog(form, main_.get()).show(); }
+void QtDesktop::showModal(platform::Form& form) {
+  FormDialog(form, main_.get()).show();
+}
 
 void QtDesktop::endProgram() {
   // Leaving through the event loop would let more handlers run; the windows go with the process.

@@ -27,6 +27,9 @@ constexpr double smallestMargin = pointsPerInch / 4;
 /// 10 characters to the inch.
 constexpr double characterWidth = 0.6;
 
+/// How long the print system may take to accept a job, in milliseconds.
+constexpr int patience = 10000;
+
 QPageSize usualPaper() {
   const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
   return QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
@@ -41,10 +44,13 @@ QPrinterInfo printerToUse() {
 
 }  // namespace
 
-void QtPrinter::printLine(std::string_view text) { lines_.append(toQString(text)); }
+void QtPrinter::printLine(std::string_view text) {
+  lines_.append(toQString(text));
+}
 
 QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
   QPdfWriter writer(&buffer);
   writer.setTitle(documentName_);
   writer.setPageSize(paper);
@@ -100,7 +106,7 @@ void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
   QProcess job;
   if (file.open() && file.write(pdf) == pdf.size() && file.flush()) {
     job.start("lp", {"-d", printer, "-t", documentName_, file.fileName()});
-    job.waitForFinished();
+    job.waitForFinished(patience);
     if (job.error() == QProcess::UnknownError && job.exitStatus() == QProcess::NormalExit &&
         job.exitCode() == 0) {
       return;
@@ -110,9 +116,9 @@ void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
 }
 
 void QtPrinter::saveAsPdf() {
-  const QString name = QFileDialog::getSaveFileName(
-      window_, "No printer was found: save the page as PDF",
-      QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
+  const QString name =
+      QFileDialog::getSaveFileName(window_, "No printer was found: save the page as PDF",
+                                   QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
   if (name.isEmpty()) return;
   QSaveFile file(name);
   const QByteArray pdf = sheet(usualPaper());

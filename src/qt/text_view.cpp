@@ -11,7 +11,7 @@ TextView::TextView(const platform::TextBox& box, QWidget* parent) : QTextEdit(pa
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   viewport()->setAutoFillBackground(false);
   setFont(toQFont(box.font, 1, logicalDpiY()));
-  setAlignment(Qt::AlignCenter);
+  document()->setDefaultTextOption(QTextOption(Qt::AlignCenter));
   setPlainText(toQString(box.text));
 }
 

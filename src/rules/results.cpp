@@ -32,7 +32,7 @@ void Results::updateLine(int first, int step) {
 
 void Results::UpdateLines(std::string_view code) {
   const std::string_view row = code.substr(0, 2);
-  const std::string_view column = code.substr(row.size());
+  const std::string_view column = code.substr(row.size(), 2);
   if (const int first = readNumber(row); first != 0) updateLine(first, alongRow);
   if (const int first = readNumber(column); first != 0) updateLine(first, downColumn);
 }

@@ -15,7 +15,8 @@ class Results {
   /// Recomputes the row and the column that `code` names, four digits "RRCC": RR the first cell of
   /// the row, CC the column; "00" names none.
   void UpdateLines(std::string_view code);
-  /// Leaves in cell 49 the value of row 7, or "?" when one of the six other results is "?".
+  /// Leaves in cell 49 the value of row 7, or "?" when one of the six other results is "?". Column
+  /// 7 ends there too, but its value would never stay, so it is not worked out.
   void UpdateCornerResult();
   /// Recomputes all rows and columns of numbers, then cell 49.
   void updateAll();

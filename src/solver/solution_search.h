@@ -24,8 +24,11 @@ class SolutionSearch {
         attempt_(state, digits) {}
 
   /// Searches for a solution with the corners that the targets fix. Finding one makes it the
-  /// current puzzle: numbered, in the corners of the board, and on the print page. After 500
-  /// attempts the search gives up, says so, and gives the number back.
+  /// current puzzle: numbered in the window's title, in the corners of the board, and on the print
+  /// page; the outer corner cells are hidden, and `Solveit` is disabled. After 500 attempts the
+  /// search gives up: it says so, leaves nothing on the board but the corners, and gives the number
+  /// back. The windows process their events before each attempt. The rest of the board is the
+  /// caller's to clear.
   void FindSolution();
 
   /// The last search found a solution, or one is running.

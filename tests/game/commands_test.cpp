@@ -180,7 +180,9 @@ TEST_F(CommandsTest, PrintAsksThenPrints59Lines) {
   form.PrintX.choose();
   const auto& lines = desktop.sheet.lines;
   ASSERT_EQ(lines.size(), 62U);
-  EXPECT_EQ(lines[0] + lines[1].substr(0, 7), "font Courier" "size 12");
+  EXPECT_EQ(lines[0] + lines[1].substr(0, 7),
+            "font Courier"
+            "size 12");
   EXPECT_EQ(lines[2] + lines[3] + lines[4] + lines[5], "");
   for (int k = 1; k <= 55; ++k) EXPECT_EQ(lines[5 + k], "     " + game.page.PrintLines[k]);
   EXPECT_EQ(lines[61], "end");

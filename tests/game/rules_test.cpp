@@ -31,9 +31,9 @@ TEST(EvalLineTest, MultipliesFirstAndOtherwiseGoesFromTheLeft) {
 
 TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
   const std::vector<std::pair<std::string, int>> captions{
-      {"", 0},    {"?", 0},   {"=", 0},    {"-", 0},   {"+", 0},        {"7", 7},
-      {" 7", 7},  {"12", 12}, {"-3x", -3}, {"+4", 4},  {"2.5", 2},      {"3.5", 4},
-      {"inf", 0}, {"nan", 0}, {"5?", 5},   {"1e3", 1}, {"99999", 32767}};
+      {"", 0},    {"?", 0},   {"=", 0},    {"-", 0},  {"+", 0},   {"7", 7},
+      {" 7", 7},  {"12", 12}, {"-3x", -3}, {"+4", 4}, {"+-3", 0}, {"2.5", 2},
+      {"3.5", 4}, {"inf", 0}, {"nan", 0},  {"5?", 5}, {"1e3", 1}, {"99999", 32767}};
   for (const auto& [caption, number] : captions) EXPECT_EQ(readNumber(caption), number) << caption;
 }
 

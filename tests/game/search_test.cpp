@@ -100,14 +100,15 @@ TEST_F(SearchTest, EverySolutionIsTrueAndKeepsTheFixedCorners) {
 }
 
 TEST_F(SearchTest, GivesUpAfter500AttemptsAndGivesTheNumberBack) {
-  // 9, 9, 9 in every row: columns 9, 9, 9 then fit with 9, but nothing makes a grand total of 1.
-  state.TargetBR = 1;
+  // The results row 9, 3, 3 can give the 3 asked for, but the results column 9, 9, 9 cannot: every
+  // attempt fails at its last step.
+  state.TargetBR = 3;
   state.PuzzleNo = 32767;
   const std::string corners = captionsOf({1, 7, 43, 49});
   press(3);
   const auto page = game.page.PrintLines;
   for (int attempt = 0; attempt < 501; ++attempt) {
-    digits.script.insert(digits.script.end(), {8, 8, 1, 8, 8, 1, 1, 1, 1});
+    digits.script.insert(digits.script.end(), {9, 1, 1, 9, 1, 1, 9, 1, 1});
   }
   desktop.yields = 0;
   game.search.FindSolution();
@@ -125,6 +126,12 @@ TEST_F(SearchTest, GivesUpAfter500AttemptsAndGivesTheNumberBack) {
     }
   }
   EXPECT_EQ(caption(1), corners.substr(0, 1));
+
+  digits.script.clear();
+  state.TargetBR = -1;
+  game.search.FindSolution();
+  EXPECT_EQ(state.PuzzleNo, 1);
+  EXPECT_EQ(game.page.PrintLines[1].substr(0, 12), "Puzzle No 1 ");
 }
 
 TEST_F(SearchTest, PressesThatArriveDuringASearchAreIgnored) {
