@@ -1,5 +1,7 @@
 #include "app/about_form.h"
 
+#include <string>
+
 #include "app/pictures.h"
 
 namespace tessoro {
@@ -14,6 +16,8 @@ AboutForm::AboutForm() {
   AboutText.text = "\nTessoro, written by the Tessoro developers\ntessoro@example.org";
   Picture1.place = {4185, 30, 510, 480};
   Picture1.picture = &calculator;
+  Picture1.accessible = {
+      platform::Accessible::Role::image, [] { return std::string("Calculator"); }, {}};
   AboutOk.place = {4155, 600, 510, 375};
   AboutOk.caption = "OK";
   Label1.place = {30, 1110, 4725, 315};

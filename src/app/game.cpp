@@ -1,5 +1,7 @@
 #include "app/game.h"
 
+#include "app/spoken_board.h"
+
 namespace tessoro {
 
 Game::Game(platform::Desktop& desktop, Digits& digits)
@@ -15,6 +17,7 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
       shell(form, desktop),
       startUp(form.board, page, search, form.CompMess, form.Solveit, desktop) {
   connectEvents();
+  describeForScreenReaders(form);
 }
 
 void Game::connectEvents() {

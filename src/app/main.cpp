@@ -6,7 +6,7 @@ int main(int /*argc*/, char* argv[]) {
   qt::QtDesktop desktop(argv[0], {.name = "Tessoro",
                                   .messageTitle = "TESSORO",
                                   .documentName = "Tessoro puzzles",
-                                  .dataFolder = "tessoro"});
+                                  .packageName = "tessoro"});
   tessoro::ReseededDigits digits(desktop);
   tessoro::Game game(desktop, digits);
   game.startUp.Form_Load();

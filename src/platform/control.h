@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/accessible.h"
 #include "platform/colour.h"
 #include "platform/picture.h"
 #include "platform/property.h"
@@ -27,10 +28,12 @@ struct Font {
   bool bold = true;
 };
 
-/// What every control has: a place, given once when its form is laid out, and visibility.
+/// What every control has: a place, given once when its form is laid out, visibility, and what
+/// assistive technology is told of it.
 class Control : public Observable {
  public:
   Place place;
+  Accessible accessible;
   Property<bool> Visible{*this, true};
 
  protected:
@@ -40,6 +43,10 @@ class Control : public Observable {
 /// One line of text, centred in its place.
 class Label final : public Control {
  public:
+  Label() {
+    accessible = {Accessible::Role::label, [this] { return caption(); }, {}};
+  }
+
   Property<std::string> caption{*this, ""};
   Colour backcolor = buttonFace;
   Colour forecolor = windowText;

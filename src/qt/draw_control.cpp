@@ -95,6 +95,15 @@ Look look(const Frame& /*frame*/) {
   return {};
 }
 
+const platform::Accessible& accessible(const platform::Control& control) {
+  return control.accessible;
+}
+
+const platform::Accessible& accessible(const Frame& /*frame*/) {
+  static const platform::Accessible none;
+  return none;
+}
+
 void listen(platform::Observable& control, std::function<void()> listener) {
   control.changed = std::move(listener);
 }
@@ -111,8 +120,14 @@ Look lookOf(const DrawnControl& control) {
   return std::visit([](const auto* it) { return look(*it); }, control);
 }
 
-const platform::Place& placeOf(const DrawnControl& control) {
-  return std::visit([](const auto* it) -> const platform::Place& { return it->place; }, control);
+bool takesInput(const DrawnControl& control) {
+  auto* const* cell = std::get_if<CellPane*>(&control);
+  return cell == nullptr || (*cell)->enabled();
+}
+
+const platform::Accessible& accessibleOf(const DrawnControl& control) {
+  return std::visit([](const auto* it) -> const platform::Accessible& { return accessible(*it); },
+                    control);
 }
 
 void onChange(const DrawnControl& control, std::function<void()> listener) {

@@ -20,7 +20,8 @@ struct Canvas {
 void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);
 
 Look lookOf(const DrawnControl& control);
-const platform::Place& placeOf(const DrawnControl& control);
+bool takesInput(const DrawnControl& control);
+const platform::Accessible& accessibleOf(const DrawnControl& control);
 /// Has `listener` called when a property of the control changes.
 void onChange(const DrawnControl& control, std::function<void()> listener);
 

@@ -6,10 +6,13 @@
 #include <QPushButton>
 #include <cmath>
 #include <ranges>
+#include <utility>
 
 #include "platform/cell_pane.h"
+#include "qt/accessible_view.h"
 #include "qt/draw_control.h"
 #include "qt/look.h"
+#include "qt/modal.h"
 #include "qt/text_view.h"
 
 namespace qt {
@@ -80,7 +83,8 @@ void FormView::add(Control& control, int left, int top) {
   const platform::Place& place = control.place;
   items_.push_back({&control,
                     {left + place.left, top + place.top, place.width, place.height},
-                    lookOf(&control)});
+                    lookOf(&control),
+                    takesInput(&control)});
   onChange(&control, [this, index] { markStale(index); });
 }
 
@@ -122,21 +126,66 @@ void FormView::refreshStale() {
     Item& item = items_[i];
     if (!item.stale) continue;
     item.stale = false;
-    Look look = lookOf(item.control);
-    if (look == item.look) continue;
-    const bool seen = look.visible || item.look.visible;
-    item.look = std::move(look);
-    if (!seen) continue;
+    const Look before = std::exchange(item.look, lookOf(item.control));
+    const bool wasEnabled = std::exchange(item.enabled, takesInput(item.control));
+    if (QAccessible::isActive()) announce(i, before, wasEnabled);
+    if (item.look == before || (!item.look.visible && !before.visible)) continue;
     for (const QRect& rect : uncovered(i)) {
       update(rect.adjusted(-margin, -margin, margin, margin));
     }
   }
 }
 
+void FormView::announce(std::size_t item, const Look& before, bool wasEnabled) {
+  QAccessibleInterface* view = QAccessible::queryAccessibleInterface(this);
+  auto* presented = dynamic_cast<AccessibleView*>(view);
+  QAccessibleInterface* child = presented == nullptr ? nullptr : presented->childOfItem(item);
+  if (child == nullptr) return;
+  const Item& now = items_[item];
+  if (now.look.text != before.text) {
+    QAccessibleEvent event(child, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+  }
+  QAccessible::State changes;
+  changes.disabled = now.enabled != wasEnabled;
+  changes.invisible = now.look.visible != before.visible;
+  if (changes.disabled || changes.invisible) {
+    QAccessibleStateChangeEvent event(child, changes);
+    QAccessible::updateAccessibility(&event);
+  }
+}
+
+const platform::Accessible& FormView::accessibleOf(std::size_t item) const {
+  return qt::accessibleOf(items_[item].control);
+}
+
+bool FormView::isItemVisible(std::size_t item) const {
+  return lookOf(items_[item].control).visible;
+}
+
+bool FormView::isItemEnabled(std::size_t item) const {
+  return takesInput(items_[item].control);
+}
+
+QRect FormView::itemRect(std::size_t item) const {
+  return pixelRect(items_[item].place, 1, {});
+}
+
+void FormView::performLater(std::size_t item, platform::MouseButton button) {
+  auto* const* cell = std::get_if<platform::CellPane*>(&items_[item].control);
+  if (cell == nullptr) return;
+  const auto perform = [this, cell = *cell, button] {
+    if (isBlocked(*this)) return;
+    cell->press({.button = button});
+    cell->release(button, true);
+  };
+  QMetaObject::invokeMethod(this, perform, Qt::QueuedConnection);
+}
+
 QRegion FormView::uncovered(std::size_t item) const {
-  QRegion region(pixelRect(items_[item].place, 1, {}));
+  QRegion region(itemRect(item));
   for (std::size_t i = item + 1; i < items_.size(); ++i) {
-    if (items_[i].look.visible) region -= pixelRect(items_[i].place, 1, {});
+    if (items_[i].look.visible) region -= itemRect(i);
   }
   return region;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "platform/mouse.h"
 
 namespace qt {
 
@@ -35,6 +36,16 @@ class FormView final : public QWidget {
   /// How often controls have been drawn since the view was made, wholly or in part.
   long drawnControls() const { return drawnControls_; }
 
+  // For assistive technology: the controls it draws, by number, from back to front.
+  std::size_t itemCount() const { return items_.size(); }
+  const platform::Accessible& accessibleOf(std::size_t item) const;
+  bool isItemVisible(std::size_t item) const;
+  bool isItemEnabled(std::size_t item) const;
+  QRect itemRect(std::size_t item) const;  ///< in device-independent pixels of the view
+  /// Presses and releases a mouse button on the control, once the caller has returned: a client
+  /// that waits for it to be done could not answer a message box that it brings up.
+  void performLater(std::size_t item, platform::MouseButton button);
+
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
@@ -47,7 +58,8 @@ class FormView final : public QWidget {
     DrawnControl control;
     platform::Place place;  ///< in the client area, twips
     Look look;              ///< as the screen shows it, or will after the next repaint
-    bool stale = false;     ///< the control may look different by now
+    bool enabled = true;    ///< as assistive technology was last told
+    bool stale = false;     ///< the control may have changed since
   };
 
   void addAll(const platform::Controls& controls, int left, int top);
@@ -58,6 +70,8 @@ class FormView final : public QWidget {
   void add(platform::CommandButton& button, int left, int top);
   void markStale(std::size_t item);
   void refreshStale();
+  /// Tells assistive technology that a control is not any more what it was.
+  void announce(std::size_t item, const Look& before, bool wasEnabled);
   /// The part of an item that no other in front of it covers.
   QRegion uncovered(std::size_t item) const;
   Item* itemAt(QPointF point);

@@ -7,6 +7,7 @@
 
 #include "qt/form_view.h"
 #include "qt/look.h"
+#include "qt/modal.h"
 
 namespace qt {
 FormWindow::FormWindow(platform::Form& form, QWidget* parent)
@@ -38,7 +39,14 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
     };
     show();
     entry->changed = show;
-    connect(action, &QAction::triggered, this, [entry] { entry->choose(); });
+    // Queued, so that a client of assistive technology that chooses the item is not kept waiting
+    // by a box that it brings up.
+    connect(
+        action, &QAction::triggered, this,
+        [this, entry] {
+          if (!isBlocked(*this)) entry->choose();
+        },
+        Qt::QueuedConnection);
   }
 }
 

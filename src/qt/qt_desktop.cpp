@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "qt/accessible_view.h"
 #include "qt/form_dialog.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
@@ -41,9 +42,11 @@ QtDesktop::QtDesktop(char* programPath, Program program)
                [this](std::string_view text) { messageBox(text, Buttons::ok); }),
       helpViewer_(
           {QApplication::applicationDirPath(),
-           QApplication::applicationDirPath() + "/../share/" + toQString(program_.dataFolder)}) {
+           QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
   QApplication::setApplicationName(toQString(program_.name));
+  QGuiApplication::setDesktopFileName(toQString(program_.packageName));
   substituteFonts();
+  installAccessibleViews();
 }
 
 QtDesktop::~QtDesktop() = default;

@@ -19,7 +19,7 @@ struct Program {
   std::string name;
   std::string messageTitle;  ///< the title of every message box
   std::string documentName;  ///< of what is printed
-  std::string dataFolder;    ///< the name of its folder of data files, beside others' in "share"
+  std::string packageName;   ///< of its desktop entry and of its folder of data files in "share"
 };
 
 /// The desktop as the toolkit gives it.

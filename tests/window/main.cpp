@@ -11,7 +11,7 @@ int main(int argc, char* argv[]) {
   qt::QtDesktop desktop(argv[0], {.name = "Tessoro",
                                   .messageTitle = "TESSORO",
                                   .documentName = "Tessoro puzzles",
-                                  .dataFolder = "tessoro"});
+                                  .packageName = "tessoro"});
   tessoro::test::theDesktop = &desktop;
   return RUN_ALL_TESTS();
 }

@@ -23,6 +23,10 @@ class ShellWindowTest : public WindowTest {
     ADD_FAILURE() << "no menu item " << text.toStdString();
     return nullptr;
   }
+  void choose(const QString& text) {
+    action(text)->trigger();
+    settle();
+  }
   /// Runs `step` once a modal window is up.
   template <typename Step>
   void onceModal(Step step) {
@@ -39,7 +43,7 @@ class ShellWindowTest : public WindowTest {
 };
 
 TEST_F(ShellWindowTest, TheMenuFollowsTheMode) {
-  action("Set a Puzzle for computer to solve")->trigger();
+  choose("Set a Puzzle for computer to solve");
   EXPECT_FALSE(action("Start a Solution")->isEnabled());
   click(cell(7), Qt::RightButton);
   const QImage image = picture();
@@ -53,7 +57,7 @@ TEST_F(ShellWindowTest, TheMenuFollowsTheMode) {
   for (const int corner : {1, 43, 49}) click(cell(corner), Qt::RightButton);
   click(game.form.Solveit);
   EXPECT_EQ(window->windowTitle(), "Puzzle Number  2");
-  action("End computer solution mode")->trigger();
+  choose("End computer solution mode");
   EXPECT_EQ(action("Start a Solution")->isEnabled(), true);
   // Pressed inside, released outside: no click.
   QTest::mousePress(&window->view(), Qt::LeftButton, {}, middleOf(game.form.NewPuz));
@@ -77,7 +81,7 @@ TEST_F(ShellWindowTest, TheAboutBoxClosesInItsThreeWays) {
       EXPECT_EQ(box->focusWidget(), box->findChild<QPushButton*>());
       close(box, text);
     });
-    action("About")->trigger();
+    choose("About");
   };
   about([](QWidget* box, QTextEdit*) { QTest::keyClick(box, Qt::Key_Return); });
   about([](QWidget*, QTextEdit* text) {
@@ -94,7 +98,7 @@ TEST_F(ShellWindowTest, HelpIsReadBesideTheGame) {
     }
     return nullptr;
   };
-  action("Help")->trigger();
+  choose("Help");
   qt::HelpWindow* help = helpWindow();
   ASSERT_NE(help, nullptr);
   auto* text = help->findChild<QTextBrowser*>();
@@ -109,9 +113,9 @@ TEST_F(ShellWindowTest, HelpIsReadBesideTheGame) {
     EXPECT_FALSE(text->isBackwardAvailable());
     box->close();
   });
-  action("About")->trigger();
+  choose("About");
   help->close();
-  action("Help")->trigger();
+  choose("Help");
   EXPECT_EQ(helpWindow(), help);
   EXPECT_TRUE(help->isVisible());
   click(cell(3));
