@@ -38,13 +38,22 @@ void drawText(const Canvas& canvas, const std::string& text, const platform::Fon
   canvas.painter.drawText(canvas.rect, Qt::AlignCenter, toQString(text));
 }
 
+/// The text colour, faded towards what is behind it. Themes fade the text of disabled buttons until
+/// it can hardly be read; this keeps a contrast of 4.5 to 1 wherever the text itself has enough.
+QColor greyed(const Look& look, const QPalette& palette) {
+  const QColor text = toQColor(look.forecolor, palette);
+  const QColor back = toQColor(look.backcolor, palette);
+  const auto faded = [](int from, int to) { return (from * 3 + to * 2) / 5; };
+  return {faded(text.red(), back.red()), faded(text.green(), back.green()),
+          faded(text.blue(), back.blue())};
+}
+
 void draw(const CellPane& cell, const Look& look, const Canvas& canvas) {
   fill(canvas, canvas.rect, look.backcolor);
   drawEdges(canvas, canvas.rect, cell.bordertop, cell.borderleft, cell.borderright,
             cell.borderbottom);
   drawText(canvas, look.text, {cell.font, cell.fontsize, cell.fontbold},
-           look.greyed ? canvas.palette.color(QPalette::Disabled, QPalette::ButtonText)
-                       : toQColor(look.forecolor, canvas.palette));
+           look.greyed ? greyed(look, canvas.palette) : toQColor(look.forecolor, canvas.palette));
 }
 
 void draw(const Label& label, const Look& look, const Canvas& canvas) {
