@@ -15,26 +15,19 @@ namespace tessoro::test {
 
 struct ProgramEnded {};
 
-/// Keeps what is printed, and the order of what is asked of the printer.
-class Sheet final : public platform::Printer {
- public:
-  void setFontName(std::string_view name) override { lines.push_back("font " + std::string(name)); }
-  void setFontSize(double points) override { lines.push_back("size " + std::to_string(points)); }
-  void printLine(std::string_view text) override { lines.emplace_back(text); }
-  void endDocument() override { lines.emplace_back("end"); }
-
-  std::vector<std::string> lines;
-};
-
-struct HelpRequests final : platform::HelpViewer {
+/// Keeps what is asked of the printer and the help viewer.
+struct Requests final : platform::Printer, platform::HelpViewer {
+  void setFontName(std::string_view name) override { all.push_back("font " + std::string(name)); }
+  void setFontSize(double points) override { all.push_back("size " + std::to_string(points)); }
+  void printLine(std::string_view text) override { all.emplace_back(text); }
+  void endDocument() override { all.emplace_back("end"); }
   bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
                 unsigned data) override {
-    requests.push_back(owner.caption() + "/" + std::string(file) + "/" + std::to_string(command) +
-                       "/" + std::to_string(data));
+    all.push_back(owner.caption() + "/" + std::string(file) + "/" + std::to_string(command) + "/" +
+                  std::to_string(data));
     return false;
   }
-
-  std::vector<std::string> requests;
+  std::vector<std::string> all;
 };
 
 /// A desktop without windows: the test answers its boxes and runs handlers while it yields.
@@ -54,13 +47,12 @@ class FakeDesktop final : public platform::Desktop {
     if (onModal) onModal(form);
     EXPECT_FALSE(form.Visible()) << "nothing else would close the box";
   }
-  platform::Printer& printer() override { return sheet; }
-  platform::HelpViewer& helpViewer() override { return help; }
+  platform::Printer& printer() override { return requests; }
+  platform::HelpViewer& helpViewer() override { return requests; }
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
   std::vector<std::string> messages;
-  Sheet sheet;
-  HelpRequests help;
+  Requests requests;
   std::function<void(platform::Form&)> onModal;
   Answer answer = Answer::no;
   std::function<void()> onYield;
@@ -115,6 +107,9 @@ class GameTest : public testing::Test {
 
   Cell& cell(int index) { return form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
+  void put(const std::vector<std::pair<int, std::string>>& captions) {
+    for (const auto& [index, text] : captions) cell(index).caption = text;
+  }
   void press(int index, platform::MouseButton button = platform::MouseButton::left) {
     cell(index).press({.button = button});
   }

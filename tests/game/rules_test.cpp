@@ -4,29 +4,31 @@ namespace tessoro::test {
 namespace {
 
 TEST(EvalLineTest, MultipliesFirstAndOtherwiseGoesFromTheLeft) {
-  struct Line {
-    int a;
-    std::string op1;
-    int b;
-    std::string op2;
-    int c;
-    int value;
+  const auto value = [](int a, std::string_view op1, int b, std::string_view op2, int c) {
+    return EvalLine(static_cast<std::int16_t>(a), static_cast<std::int16_t>(b),
+                    static_cast<std::int16_t>(c), op1, op2);
   };
-  const std::vector<Line> lines{
-      {2, "+", 3, "+", 4, 9},      {9, "-", 3, "-", 4, 2},       {2, "+", 3, "-", 4, 1},
-      {2, "-", 3, "+", 4, 3},      {9, "*", 9, "*", 9, 729},     {2, "*", 3, "+", 4, 10},
-      {2, "*", 3, "-", 4, 2},      {2, "-", 3, "*", 4, -10},     {2, "+", 3, "*", 4, 14},
-      {1, "-", 9, "*", 9, -80},    {2, "-", 1, "-", 1, 0},       {0, "+", 5, "+", 5, -1},
-      {5, "+", 5, "+", 0, -1},     {5, "", 5, "+", 5, -1},       {5, "+", 5, "?", 5, -1},
-      {5, "+ ", 5, "+", 5, -1},    {5, "", 5, "*", 5, -1},       {181, "*", 181, "+", 6, 32767},
-      {181, "*", 181, "+", 7, -1}, {-181, "*", 181, "-", 8, -1}, {300, "*", 300, "-", 32767, -1},
-      {1, "+", 200, "*", 200, -1}};
-  for (const Line& line : lines) {
-    EXPECT_EQ(EvalLine(static_cast<std::int16_t>(line.a), static_cast<std::int16_t>(line.b),
-                       static_cast<std::int16_t>(line.c), line.op1, line.op2),
-              line.value)
-        << line.a << line.op1 << line.b << line.op2 << line.c;
-  }
+  EXPECT_EQ(value(2, "+", 3, "+", 4), 9);
+  EXPECT_EQ(value(9, "-", 3, "-", 4), 2);
+  EXPECT_EQ(value(2, "+", 3, "-", 4), 1);
+  EXPECT_EQ(value(2, "-", 3, "+", 4), 3);
+  EXPECT_EQ(value(9, "*", 9, "*", 9), 729);
+  EXPECT_EQ(value(2, "*", 3, "+", 4), 10);
+  EXPECT_EQ(value(2, "*", 3, "-", 4), 2);
+  EXPECT_EQ(value(1, "-", 9, "*", 9), -80);
+  EXPECT_EQ(value(2, "+", 3, "*", 4), 14);
+  EXPECT_EQ(value(2, "-", 1, "-", 1), 0);
+  // No value: an empty number, no operator, or more than 16 bits at any step.
+  EXPECT_EQ(value(0, "+", 5, "+", 5), -1);
+  EXPECT_EQ(value(5, "+", 0, "+", 5), -1);
+  EXPECT_EQ(value(5, "+", 5, "*", 0), -1);
+  EXPECT_EQ(value(5, "", 5, "+", 5), -1);
+  EXPECT_EQ(value(5, "?", 5, "*", 5), -1);
+  EXPECT_EQ(value(5, "+", 5, "+ ", 5), -1);
+  EXPECT_EQ(value(181, "*", 181, "+", 6), 32767);
+  EXPECT_EQ(value(181, "*", 181, "+", 7), -1);
+  EXPECT_EQ(value(300, "*", 300, "-", 32767), -1);
+  EXPECT_EQ(value(1, "+", 200, "*", 200), -1);
 }
 
 TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
@@ -37,12 +39,7 @@ TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
   for (const auto& [caption, number] : captions) EXPECT_EQ(readNumber(caption), number) << caption;
 }
 
-class ResultsTest : public GameTest {
- protected:
-  void put(const std::vector<std::pair<int, std::string>>& captions) {
-    for (const auto& [index, text] : captions) cell(index).caption = text;
-  }
-};
+using ResultsTest = GameTest;
 
 TEST_F(ResultsTest, ACodeRecomputesTheRowAndTheColumnItNames) {
   put({{1, "2"},
@@ -55,35 +52,23 @@ TEST_F(ResultsTest, ACodeRecomputesTheRowAndTheColumnItNames) {
        {24, "*"},
        {31, "2"}});
   game.results.UpdateLines("0103");
-  EXPECT_EQ(caption(7) + caption(45), "51");
+  EXPECT_EQ(captionsOf({7, 45}), "51");
   put({{5, "9"}, {17, "2"}});
   game.results.UpdateLines("0100");
-  EXPECT_EQ(caption(7) + caption(45), "?1") << "29 is no digit, and the column is not named";
+  EXPECT_EQ(captionsOf({7, 45}), "?1") << "29 is no digit, and the column is not named";
   game.results.UpdateLines("0003");
   EXPECT_EQ(caption(45), "?") << "-1 is no digit";
-  put({{17, ""}, {7, "4"}});
+  put({{45, "4"}});
   game.results.UpdateLines("");
-  EXPECT_EQ(caption(7), "4");
-  game.results.UpdateLines("0003");
-  EXPECT_EQ(caption(45), "?") << "an empty number";
+  EXPECT_EQ(caption(45), "4");
 }
 
 TEST_F(ResultsTest, TheGrandResultIsRow7sUnlessAnyResultIsUnknown) {
-  put({{43, "7"},
-       {44, "-"},
-       {45, "1"},
-       {46, "*"},
-       {47, "1"},
-       {7, "1"},
-       {14, "+"},
-       {21, "1"},
-       {28, "+"},
-       {35, "1"}});
+  put({{43, "7"}, {44, "-"}, {45, "1"}, {46, "*"}, {47, "1"}});
+  put({{7, "1"}, {14, "+"}, {21, "1"}, {28, "+"}, {35, "1"}});
   game.results.UpdateCornerResult();
   EXPECT_EQ(caption(49), "6") << "although column 7 gives 3";
-  game.results.UpdateLines("0007");
-  EXPECT_EQ(caption(49), "3");
-  cell(21).caption = "?";
+  put({{21, "?"}});
   game.results.UpdateCornerResult();
   EXPECT_EQ(caption(49), "?");
 }

@@ -1,0 +1,150 @@
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <random>
+#include <string>
+
+#include "app/game.h"
+#include "board/captions.h"
+#include "rules/eval_line.h"
+
+namespace tessoro::test {
+
+/// What must hold of the game after every event, whatever the player does. It watches one game.
+class Invariants {
+ public:
+  explicit Invariants(const Game& game) : game_(game) { remember(); }
+
+  /// The rule that is broken since the last call; empty if none is. `pressedInPlay` says that the
+  /// one event since then was a press on the board while no puzzle was being stated.
+  std::string broken(bool pressedInPlay) {
+    std::string rule = brokenOnBoard();
+    if (rule.empty() && pressedInPlay && lockedBefore_ && look() != lookBefore_) {
+      rule = "a press changed a locked board";
+    }
+    if (rule.empty()) rule = brokenOnPage();
+    remember();
+    return rule;
+  }
+
+ private:
+  const Game& game_;
+  bool lockedBefore_ = false;
+  std::string lookBefore_;
+  std::array<std::string, 81> pageBefore_;
+  std::int16_t numberBefore_ = 0;
+
+  const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
+
+  /// Everything the player sees of the board.
+  std::string look() const {
+    std::string all;
+    for (const Cell& it : game_.form.board.GridDisp) {
+      all += it.caption() + '/' + std::to_string(it.backcolor().value) + (it.Visible() ? '+' : '-');
+    }
+    return all;
+  }
+  void remember() {
+    lockedBefore_ = game_.state.BoardLocked && !game_.state.SolveMode;
+    lookBefore_ = look();
+    pageBefore_ = game_.page.PrintLines;
+    numberBefore_ = game_.state.PuzzleNo;
+  }
+
+  std::string brokenOnBoard() const {
+    const Form1& form = game_.form;
+    const PuzzleState& state = game_.state;
+    if (form.NewPuz.Visible() == form.Solveit.Visible()) return "one button below the board";
+    if (form.RightMess.Visible() && form.CompMess.Visible()) return "one label above the board";
+    for (int index = 1; index <= gridCells; ++index) {
+      const std::string& caption = cell(index).caption();
+      const bool digit = caption.size() == 1 && caption >= "1" && caption <= "9";
+      switch (roleOf(index)) {
+        case CellRole::equals:
+          if (caption != "=") return "= cells show =";
+          break;
+        case CellRole::hole:
+          if (!caption.empty()) return "holes show nothing";
+          break;
+        case CellRole::rowOperator:
+        case CellRole::columnOperator:
+          if (!caption.empty() && caption != "+" && caption != "-" && caption != "*") {
+            return "operator cells show operators";
+          }
+          break;
+        default:
+          if (!digit && !caption.empty() && caption != "?") return "values are digits, ? or nothing";
+      }
+    }
+    const bool inPlay = !state.SolveMode && !state.BoardLocked && game_.search.SolveFound();
+    if (inPlay && cell(1).caption() != trimmed(state.SolNumbers[1])) return "cell 1 is the puzzle's";
+    for (int k = 1; k <= 4; ++k) {
+      if (form.board.NPict[k].Visible() && cell(CornerCells[k]).backcolor() != ColGreen) {
+        return "faces smile over green corners";
+      }
+      if (cell(CornerCells[k]).enabled() != state.SolveMode) return "corners are for stating puzzles";
+    }
+    return {};
+  }
+
+  std::string brokenOnPage() const {
+    const auto& lines = game_.page.PrintLines;
+    const std::int16_t number = game_.state.PuzzleNo;
+    if (lines == pageBefore_) return number == numberBefore_ ? "" : "numbers count successes";
+    if (number != (numberBefore_ == 32767 ? 1 : numberBefore_ + 1)) return "numbers count successes";
+    const int heading = PrintPage::headings[(number - 1) % 3];
+    const std::string no = " " + std::to_string(number);
+    if (lines[heading] != "Puzzle No" + no + std::string(28, ' ') + "Solution to Puzzle No" + no) {
+      return "a puzzle's slot is headed by its number";
+    }
+    for (int line = 1; line <= 55; ++line) {
+      if ((line < heading || line > heading + 15) && lines[line] != pageBefore_[line]) {
+        return "a puzzle is written into its slot alone";
+      }
+    }
+    return brokenInSlot(heading);
+  }
+
+  /// Reads the slot from the paper: its frame, the corners at the left, and every line's value.
+  std::string brokenInSlot(int heading) const {
+    const auto& lines = game_.page.PrintLines;
+    const auto at = [&](int grid, int row, int column) {
+      return lines[heading + 2 * row][grid + 4 * column - 3];
+    };
+    for (int line = 1; line <= 15; ++line) {
+      const std::string& text = lines[heading + line];
+      const std::string frame = line == 1 || line == 15 ? "+---" : line % 2 == 1 ? "|---" : "|";
+      if (text.size() != 70 || text.compare(0, frame.size(), frame) != 0 || text[28] != frame[0] ||
+          text[39] != frame[0] || text[67] != frame[0]) {
+        return "the page is well formed";
+      }
+    }
+    for (int line = 1; line <= 7; line += 2) {
+      const auto holds = [&](auto cellAt) {
+        const auto number = [&](int place) { return readNumber(std::string(1, cellAt(place))); };
+        const int value = EvalLine(number(1), number(3), number(5), std::string(1, cellAt(2)),
+                                   std::string(1, cellAt(4)));
+        return value == number(7) && value >= 1 && value <= 9 && cellAt(6) == '=';
+      };
+      if (!holds([&](int place) { return at(40, line, place); }) ||
+          !holds([&](int place) { return at(40, place, line); })) {
+        return "every printed solution is true";
+      }
+    }
+    for (const int row : {1, 7}) {
+      for (const int column : {1, 7}) {
+        if (at(1, row, column) != at(40, row, column)) return "the printed corners are the solution's";
+      }
+    }
+    return {};
+  }
+};
+
+/// The number in an environment variable, or the usual one.
+inline unsigned fromEnvironment(const char* name, unsigned usual) {
+  const char* text = std::getenv(name);
+  return text == nullptr ? usual : static_cast<unsigned>(std::strtoul(text, nullptr, 10));
+}
+
+}  // namespace tessoro::test
