@@ -7,6 +7,10 @@ namespace {
 
 constexpr std::string_view noneFits = "?";
 
+/// The digits as the solution keeps them; element 0 is not used.
+constexpr std::array<std::string_view, 10> digitTexts{"",   " 1", " 2", " 3", " 4",
+                                                      " 5", " 6", " 7", " 8", " 9"};
+
 bool isFixed(std::int16_t target) {
   return target > 0;
 }
@@ -21,15 +25,20 @@ std::string_view secondOperator(std::size_t pair) {
   return OpPairs[pair].substr(1);
 }
 
-/// The values of "a op1 b op2 c" under the pairs of `OpPairs`, in its order. With digits 1..9 they
-/// lie between -80 and 729.
-SolutionAttempt::PairValues valuesOf(int a, int b, int c) {
-  const std::array<int, PairCount + 1> values{0,         a + b + c, a + b - c, a - b - c,
-                                              a - b + c, a + b * c, a * b + c, a - b * c,
-                                              a * b - c, a * b * c};
-  SolutionAttempt::PairValues narrow{};
-  for (std::size_t k = 1; k <= PairCount; ++k) narrow[k] = static_cast<std::int16_t>(values[k]);
-  return narrow;
+/// Sets the values of "a op1 b op2 c" under the pairs of `OpPairs`, in its order. With digits 1..9
+/// they lie between -80 and 729. They are set in place, one by one, because copying an array that
+/// has just been written in smaller parts makes the processor wait.
+void setPairValues(SolutionAttempt::PairValues& values, int a, int b, int c) {
+  const auto set = [&](std::size_t k, int value) { values[k] = static_cast<std::int16_t>(value); };
+  set(1, a + b + c);
+  set(2, a + b - c);
+  set(3, a - b - c);
+  set(4, a - b + c);
+  set(5, a + b * c);
+  set(6, a * b + c);
+  set(7, a - b * c);
+  set(8, a * b - c);
+  set(9, a * b * c);
 }
 
 }  // namespace
@@ -52,7 +61,7 @@ void SolutionAttempt::drawRow(int row) {
     for (int k = start; k < start + 3; ++k) {
       const int digit = digits_.draw();  // drawn even where the number is fixed
       const bool fixed = k == 1 && isFixed(state_.TargetTL);
-      state_.SolNumbers[k] = signedNumberText(fixed ? state_.TargetTL : digit);
+      state_.SolNumbers[k] = digitTexts[fixed ? state_.TargetTL : digit];
     }
     ChooseRowPair(start);
   } while (!found());
@@ -86,13 +95,13 @@ void SolutionAttempt::ChooseColPair(int col) {
 
 void SolutionAttempt::choosePair(int first, int step, std::int16_t target) {
   const auto number = [&](int k) { return readNumber(state_.SolNumbers[first + k * step]); };
-  PairValue = valuesOf(number(0), number(1), number(2));
+  setPairValues(PairValue, number(0), number(1), number(2));
   LineResult = noneFits;
   LineOp1 = noneFits;
   LineOp2 = noneFits;
   for (std::size_t k = 1; k <= PairCount; ++k) {
     if (isDigit(PairValue[k]) && (!isFixed(target) || PairValue[k] == target)) {
-      LineResult = signedNumberText(PairValue[k]);
+      LineResult = digitTexts[PairValue[k]];
       takeOperators(k);
       return;
     }
@@ -105,7 +114,7 @@ void SolutionAttempt::takeOperators(std::size_t pair) {
 }
 
 void SolutionAttempt::MatchGrandTotal() {
-  LineResult.clear();
+  LineResult = "";
   for (std::size_t i = 1; i <= PairCount; ++i) {
     for (std::size_t j = 1; j <= PairCount; ++j) {
       const std::int16_t total = ColPairValue[j];
@@ -114,7 +123,7 @@ void SolutionAttempt::MatchGrandTotal() {
       state_.SolOperators[8] = secondOperator(i);
       takeOperators(j);
       if (isFixed(state_.TargetBR) && total != state_.TargetBR) continue;
-      state_.SolNumbers[16] = signedNumberText(total);
+      state_.SolNumbers[16] = digitTexts[total];
       state_.SolOperators[15] = LineOp1;
       state_.SolOperators[16] = LineOp2;
       return;

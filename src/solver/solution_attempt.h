@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
 
 #include "board/puzzle_state.h"
@@ -35,7 +34,8 @@ class SolutionAttempt {
   void MatchGrandTotal();
 
   // What the last choice has found.
-  std::string LineResult;    ///< the value with a leading blank, "?" if none fits, "" after a match
+  std::string_view
+      LineResult;            ///< the value with a leading blank, "?" if none fits, "" after a match
   std::string_view LineOp1;  ///< "?" if no pair fits
   std::string_view LineOp2;
 

@@ -32,7 +32,7 @@ TEST_F(SearchTest, TheTableDecidesAndARowThatDoesNotFitIsDrawnAgainAlone) {
     for (int k = 0; k < 3; ++k) state.SolNumbers[start + k * step] = {' ', line[k]};
     state.TargetTR = state.TargetBR = target;
     step == 1 ? attempt.ChooseRowPair(start) : attempt.ChooseColPair(start);
-    return std::string(attempt.LineOp1) + std::string(attempt.LineOp2) + attempt.LineResult;
+    return std::string(attempt.LineOp1) + std::string(attempt.LineOp2) + std::string(attempt.LineResult);
   };
   EXPECT_EQ(choose(1, 1, "123", 0), "++ 6");
   EXPECT_EQ(choose(1, 1, "999", 0), "+- 9");
@@ -47,7 +47,7 @@ TEST_F(SearchTest, TheTableDecidesAndARowThatDoesNotFitIsDrawnAgainAlone) {
     state.TargetBR = target;
     attempt.MatchGrandTotal();
     const auto& op = state.SolOperators;
-    return op[7] + op[8] + op[15] + op[16] + state.SolNumbers[16] + attempt.LineResult;
+    return op[7] + op[8] + op[15] + op[16] + state.SolNumbers[16] + std::string(attempt.LineResult);
   };
   EXPECT_EQ(match(0), "++++ 6");
   EXPECT_EQ(match(2), "-++- 2");
