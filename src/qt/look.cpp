@@ -49,7 +49,7 @@ QImage toQImage(const platform::Picture& picture, int size) {
 
 QIcon toQIcon(const platform::Picture& picture) {
   QIcon icon;
-  for (const int size : {16, 32, 48, 64, 128}) {
+  for (const int size : {32, 64, 128}) {
     icon.addPixmap(QPixmap::fromImage(toQImage(picture, size)));
   }
   return icon;

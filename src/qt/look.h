@@ -31,7 +31,7 @@ QFont toQFont(const platform::Font& font, double scale, double logicalDpi);
 /// others.
 QImage toQImage(const platform::Picture& picture, int size);
 
-/// The picture as the icon of a window, in the usual sizes.
+/// The picture as the icon of a window, in whole multiples of its own size, which are sharp.
 QIcon toQIcon(const platform::Picture& picture);
 
 /// Names the stand-ins of the typefaces that a machine may not have.
