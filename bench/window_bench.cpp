@@ -13,6 +13,7 @@
 #include <string>
 
 #include "app/game.h"
+#include "app/program.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
 #include "qt/qt_desktop.h"
@@ -122,6 +123,10 @@ struct Shown {
     window = &desktop->show(game.form);
     settle();
   }
+  ~Shown() { desktop->close(); }
+  Shown(const Shown&) = delete;
+  Shown& operator=(const Shown&) = delete;
+
   static void settle() {
     for (int i = 0; i < 20; ++i) QApplication::processEvents();
   }
@@ -197,10 +202,7 @@ BENCHMARK(memoryOfALongDay)->Iterations(1)->Unit(benchmark::kSecond);
 
 int main(int argc, char* argv[]) {
   benchmark::Initialize(&argc, argv);
-  qt::QtDesktop desktop(argv[0], {.name = "Tessoro",
-                                  .messageTitle = "TESSORO",
-                                  .documentName = "Tessoro puzzles",
-                                  .packageName = "tessoro"});
+  qt::QtDesktop desktop(argv[0], tessoro::program());
   Shown::desktop = &desktop;
   benchmark::RunSpecifiedBenchmarks();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
-#include <random>
+#include <cstdint>
+#include <cstdlib>
 #include <string>
 
 #include "app/game.h"
@@ -20,12 +20,22 @@ class Invariants {
   /// one event since then was a press on the board while no puzzle was being stated.
   std::string broken(bool pressedInPlay) {
     std::string rule = brokenOnBoard();
-    if (rule.empty() && pressedInPlay && lockedBefore_ && look() != lookBefore_) {
+    if (rule.empty() && pressedInPlay && lockedBefore_ && look(game_) != lookBefore_) {
       rule = "a press changed a locked board";
     }
     if (rule.empty()) rule = brokenOnPage();
     remember();
     return rule;
+  }
+
+  /// Everything the player sees of the board, and what presses on it do.
+  static std::string look(const Game& game) {
+    std::string all = game.state.BoardLocked ? "locked" : "open";
+    if (game.state.SolveMode) all += " set";
+    for (const Cell& it : game.form.board.GridDisp) {
+      all += it.caption() + '/' + std::to_string(it.backcolor().value) + (it.Visible() ? '+' : '-');
+    }
+    return all;
   }
 
  private:
@@ -37,17 +47,9 @@ class Invariants {
 
   const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
 
-  /// Everything the player sees of the board.
-  std::string look() const {
-    std::string all;
-    for (const Cell& it : game_.form.board.GridDisp) {
-      all += it.caption() + '/' + std::to_string(it.backcolor().value) + (it.Visible() ? '+' : '-');
-    }
-    return all;
-  }
   void remember() {
     lockedBefore_ = game_.state.BoardLocked && !game_.state.SolveMode;
-    lookBefore_ = look();
+    lookBefore_ = look(game_);
     pageBefore_ = game_.page.PrintLines;
     numberBefore_ = game_.state.PuzzleNo;
   }
@@ -74,16 +76,19 @@ class Invariants {
           }
           break;
         default:
-          if (!digit && !caption.empty() && caption != "?") return "values are digits, ? or nothing";
+          if (!digit && !caption.empty() && caption != "?")
+            return "values are digits, ? or nothing";
       }
     }
     const bool inPlay = !state.SolveMode && !state.BoardLocked && game_.search.SolveFound();
-    if (inPlay && cell(1).caption() != trimmed(state.SolNumbers[1])) return "cell 1 is the puzzle's";
+    if (inPlay && cell(1).caption() != trimmed(state.SolNumbers[1]))
+      return "cell 1 is the puzzle's";
     for (int k = 1; k <= 4; ++k) {
       if (form.board.NPict[k].Visible() && cell(CornerCells[k]).backcolor() != ColGreen) {
         return "faces smile over green corners";
       }
-      if (cell(CornerCells[k]).enabled() != state.SolveMode) return "corners are for stating puzzles";
+      if (cell(CornerCells[k]).enabled() != state.SolveMode)
+        return "corners are for stating puzzles";
     }
     return {};
   }
@@ -92,7 +97,8 @@ class Invariants {
     const auto& lines = game_.page.PrintLines;
     const std::int16_t number = game_.state.PuzzleNo;
     if (lines == pageBefore_) return number == numberBefore_ ? "" : "numbers count successes";
-    if (number != (numberBefore_ == 32767 ? 1 : numberBefore_ + 1)) return "numbers count successes";
+    if (number != (numberBefore_ == 32767 ? 1 : numberBefore_ + 1))
+      return "numbers count successes";
     const int heading = PrintPage::headings[(number - 1) % 3];
     const std::string no = " " + std::to_string(number);
     if (lines[heading] != "Puzzle No" + no + std::string(28, ' ') + "Solution to Puzzle No" + no) {
@@ -134,7 +140,8 @@ class Invariants {
     }
     for (const int row : {1, 7}) {
       for (const int column : {1, 7}) {
-        if (at(1, row, column) != at(40, row, column)) return "the printed corners are the solution's";
+        if (at(1, row, column) != at(40, row, column))
+          return "the printed corners are the solution's";
       }
     }
     return {};

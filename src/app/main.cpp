@@ -1,12 +1,10 @@
 #include "app/game.h"
+#include "app/program.h"
 #include "qt/qt_desktop.h"
 #include "solver/digits.h"
 
 int main(int /*argc*/, char* argv[]) {
-  qt::QtDesktop desktop(argv[0], {.name = "Tessoro",
-                                  .messageTitle = "TESSORO",
-                                  .documentName = "Tessoro puzzles",
-                                  .packageName = "tessoro"});
+  qt::QtDesktop desktop(argv[0], tessoro::program());
   tessoro::ReseededDigits digits(desktop);
   tessoro::Game game(desktop, digits);
   game.startUp.Form_Load();

@@ -1,5 +1,7 @@
 #include "board/board.h"
 
+#include <string>
+
 namespace tessoro {
 
 Board::Board() {

@@ -18,7 +18,7 @@ bool isDigit(char c) {
 std::int16_t readNumber(std::string_view caption) {
   std::string_view text = caption;
   while (text.starts_with(' ')) text.remove_prefix(1);
-  // Nearly every text is one digit, and searching reads a great many.
+  // Nearly every text is one digit, and a search reads a great many.
   if (text.size() == 1) return static_cast<std::int16_t>(isDigit(text[0]) ? text[0] - '0' : 0);
   // Letters are cut off first, since the library would take "inf" for a number.
   std::string_view decimal = text.substr(0, text.find_first_not_of("+-.0123456789"));
@@ -35,9 +35,7 @@ std::string numberText(int number) {
 }
 
 std::string signedNumberText(int number) {
-  if (number < 0) return numberText(number);
-  if (number <= 9) return {' ', static_cast<char>('0' + number)};
-  return " " + numberText(number);
+  return (number < 0 ? "" : " ") + numberText(number);
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -14,10 +14,7 @@ constexpr int gridSide = 7;
 constexpr int gridCells = gridSide * gridSide;
 constexpr int boardCells = 54;
 
-/// The cell in the given row and column, each 1..7.
-constexpr int cellIndex(int row, int column) {
-  return (row - 1) * gridSide + column;
-}
+/// The row and the column of a cell of the grid, each 1..7.
 constexpr int rowOf(int cell) {
   return (cell - 1) / gridSide + 1;
 }

@@ -17,7 +17,7 @@ class Printer {
   virtual void setFontName(std::string_view name) = 0;
   virtual void setFontSize(double points) = 0;
 
-  virtual void printLine(std::string_view text = "") = 0;
+  virtual void printLine(std::string_view text) = 0;
 
   /// Ends the document and releases it to the printer. Should that fail, the user is told.
   virtual void endDocument() = 0;

@@ -1,9 +1,7 @@
 #include "play/moves.h"
 
-#include <array>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "board/captions.h"
 

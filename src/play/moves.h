@@ -2,6 +2,8 @@
 
 #include "board/board.h"
 #include "board/puzzle_state.h"
+#include "platform/control.h"
+#include "platform/mouse.h"
 #include "play/corner_check.h"
 #include "rules/results.h"
 

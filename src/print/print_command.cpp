@@ -37,7 +37,7 @@ void PrintCommand::PrintX_Click() {
   platform::Printer& printer = desktop_.printer();
   printer.setFontName("Courier");
   printer.setFontSize(12);
-  for (int line = 0; line < emptyLinesAbove; ++line) printer.printLine();
+  for (int line = 0; line < emptyLinesAbove; ++line) printer.printLine("");
   for (int line = 1; line <= PrintPage::lineCount; ++line) {
     printer.printLine(std::string(blanksBefore, ' ') + page_.PrintLines[line]);
   }

@@ -63,7 +63,7 @@ void PrintPage::write(int heading, int grid, int cell, char text) {
 }
 
 void PrintPage::RecordPuzzleForPrint() {
-  const int heading = headings[(state_.PuzzleNo + 2) % 3];
+  const int heading = headings[(state_.PuzzleNo - 1) % 3];
   const std::string number = signedNumberText(state_.PuzzleNo);
   std::string& line = PrintLines[heading];
   line = headingText;

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "board/board.h"
 #include "board/puzzle_state.h"

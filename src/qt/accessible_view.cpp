@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/cell_pane.h"
-#include "qt/look.h"
+#include "qt/convert.h"
 
 namespace qt {
 namespace {
@@ -41,7 +41,7 @@ class AccessibleItem final : public QAccessibleInterface, public QAccessibleActi
   QAccessible::State state() const override {
     QAccessible::State state;
     state.disabled = !view_.isItemEnabled(item_);
-    state.invisible = !view_.isItemVisible(item_) || !view_.isVisible();
+    state.invisible = !view_.lookOfItem(item_).visible || !view_.isVisible();
     return state;
   }
   QRect rect() const override {
@@ -59,7 +59,7 @@ class AccessibleItem final : public QAccessibleInterface, public QAccessibleActi
   }
   QStringList actionNames() const override {
     QStringList names;
-    if (!view_.isItemEnabled(item_) || !view_.isItemVisible(item_)) return names;
+    if (!view_.isItemEnabled(item_) || !view_.lookOfItem(item_).visible) return names;
     for (const Accessible::Action& action : accessible().actions) names += toQString(action.name);
     return names;
   }
@@ -91,9 +91,13 @@ AccessibleView::AccessibleView(FormView& view)
     if (view.accessibleOf(item).role != Accessible::Role::none) items_.push_back(item);
   }
   ids_.resize(items_.size());
+  view.itemChanged = [this](std::size_t item, const Look& before, bool wasEnabled) {
+    announce(item, before, wasEnabled);
+  };
 }
 
 AccessibleView::~AccessibleView() {
+  view_.itemChanged = nullptr;
   for (const QAccessible::Id id : ids_) {
     if (id != 0) QAccessible::deleteAccessibleInterface(id);
   }
@@ -114,9 +118,23 @@ QAccessibleInterface* AccessibleView::child(int index) const {
   return QAccessible::accessibleInterface(ids_[at]);
 }
 
-QAccessibleInterface* AccessibleView::childOfItem(std::size_t item) const {
+/// Tells clients that a control is not any more what it was.
+void AccessibleView::announce(std::size_t item, const Look& before, bool wasEnabled) const {
   const auto found = std::find(items_.begin(), items_.end(), item);
-  return found == items_.end() ? nullptr : child(static_cast<int>(found - items_.begin()));
+  if (found == items_.end()) return;
+  QAccessibleInterface* changed = child(static_cast<int>(found - items_.begin()));
+  const Look now = view_.lookOfItem(item);
+  if (now.text != before.text) {
+    QAccessibleEvent event(changed, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+  }
+  QAccessible::State changes;
+  changes.disabled = view_.isItemEnabled(item) != wasEnabled;
+  changes.invisible = now.visible != before.visible;
+  if (changes.disabled || changes.invisible) {
+    QAccessibleStateChangeEvent event(changed, changes);
+    QAccessible::updateAccessibility(&event);
+  }
 }
 
 int AccessibleView::indexOfChild(const QAccessibleInterface* child) const {

@@ -20,10 +20,9 @@ class AccessibleView final : public QAccessibleWidget {
   int indexOfChild(const QAccessibleInterface* child) const override;
   QAccessibleInterface* childAt(int x, int y) const override;
 
-  /// The interface of an item of the view, null if it is not presented.
-  QAccessibleInterface* childOfItem(std::size_t item) const;
-
  private:
+  void announce(std::size_t item, const Look& before, bool wasEnabled) const;
+
   FormView& view_;
   std::vector<std::size_t> items_;            ///< which items of the view are presented
   mutable std::vector<QAccessible::Id> ids_;  ///< of their interfaces, 0 where not made yet

@@ -2,11 +2,26 @@
 
 #include <QPainter>
 #include <functional>
+#include <string>
+#include <variant>
 
 #include "platform/control.h"
-#include "qt/form_view.h"
 
 namespace qt {
+
+/// The controls that a form's view draws itself; the others are widgets of the toolkit.
+using DrawnControl =
+    std::variant<platform::CellPane*, platform::Label*, platform::PictureBox*, platform::Frame*>;
+
+/// What a control shows at the moment.
+struct Look {
+  bool visible = true;
+  bool greyed = false;
+  std::string text = {};
+  platform::Colour backcolor = {};
+  platform::Colour forecolor = {};
+  bool operator==(const Look&) const = default;
+};
 
 /// Where and how a control is drawn.
 struct Canvas {

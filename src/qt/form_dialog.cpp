@@ -2,8 +2,8 @@
 
 #include <QVBoxLayout>
 
+#include "qt/convert.h"
 #include "qt/form_view.h"
-#include "qt/look.h"
 
 namespace qt {
 
@@ -31,7 +31,7 @@ FormDialog::~FormDialog() {
   form_.changed = nullptr;
 }
 
-void FormDialog::show() {
+void FormDialog::run() {
   form_.Visible = true;
   exec();
 }

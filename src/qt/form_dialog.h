@@ -13,7 +13,7 @@ class FormDialog final : public QDialog {
   ~FormDialog() override;
 
   /// Shows the form, and returns when it has been closed.
-  void show();
+  void run();
 
   /// The user has told the box to close, by its close command or the Escape key.
   void reject() override;

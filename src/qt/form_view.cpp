@@ -1,6 +1,5 @@
 #include "qt/form_view.h"
 
-#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -9,18 +8,12 @@
 #include <utility>
 
 #include "platform/cell_pane.h"
-#include "qt/accessible_view.h"
-#include "qt/draw_control.h"
-#include "qt/look.h"
+#include "qt/convert.h"
 #include "qt/modal.h"
 #include "qt/text_view.h"
 
 namespace qt {
 namespace {
-
-/// Asks a view to bring what it shows up to date with its controls. Changes are gathered until the
-/// handler that makes them is done, so that what changes and changes back is not drawn at all.
-const auto refreshEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 /// The rectangle in the pixels of a grid in which the client area begins at `origin` and `scale`
 /// of them make a device-independent one.
@@ -68,54 +61,55 @@ FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFixedSize(static_cast<int>(std::lround(form.clientWidth / twipsPerPixel)),
                static_cast<int>(std::lround(form.clientHeight / twipsPerPixel)));
-  addAll(form.controls, 0, 0);
+  addAll(form.controls, {});
 }
 
-void FormView::addAll(const platform::Controls& controls, int left, int top) {
-  for (const platform::ControlRef& control : controls) {
-    std::visit([&](auto* it) { add(*it, left, top); }, control);
-  }
+FormView::~FormView() {
+  for (const Item& item : items_) onChange(item.control, nullptr);
+}
+
+void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
+  const auto addAtPlace = [&](auto* control) {
+    const platform::Place& place = control->place;
+    add(*control, {holder.left + place.left, holder.top + place.top, place.width, place.height});
+  };
+  for (const platform::ControlRef& control : controls) std::visit(addAtPlace, control);
 }
 
 template <typename Control>
-void FormView::add(Control& control, int left, int top) {
+void FormView::add(Control& control, const platform::Place& place) {
   const std::size_t index = items_.size();
-  const platform::Place& place = control.place;
-  items_.push_back({&control,
-                    {left + place.left, top + place.top, place.width, place.height},
-                    lookOf(&control),
-                    takesInput(&control)});
+  items_.push_back({&control, place, lookOf(&control), takesInput(&control)});
   onChange(&control, [this, index] { markStale(index); });
 }
 
-void FormView::add(platform::Frame& frame, int left, int top) {
-  add<platform::Frame>(frame, left, top);
-  addAll(frame.controls, left + frame.place.left, top + frame.place.top);
+void FormView::add(platform::Frame& frame, const platform::Place& place) {
+  add<platform::Frame>(frame, place);
+  addAll(frame.controls, place);
 }
 
-void FormView::add(platform::TextBox& box, int /*left*/, int /*top*/) {
+void FormView::add(platform::TextBox& box, const platform::Place& place) {
   auto* view = new TextView(box, this);
-  view->setGeometry(pixelRect(box.place, 1, {}));
+  view->setGeometry(pixelRect(place, 1, {}));
 }
 
-void FormView::add(platform::CommandButton& button, int /*left*/, int /*top*/) {
+void FormView::add(platform::CommandButton& button, const platform::Place& place) {
   auto* view = new QPushButton(toQString(button.caption), this);
   view->setFont(toQFont(button.font, 1, logicalDpiY()));
-  view->setGeometry(pixelRect(button.place, 1, {}));
-  connect(view, &QPushButton::clicked, this, [&button] { button.click(); });
+  view->setGeometry(pixelRect(place, 1, {}));
+  connect(view, &QPushButton::clicked, this, [&button] {
+    if (button.click) button.click();
+  });
 }
 
+/// Changes are gathered until the handler that makes them is done, so that what changes and changes
+/// back is not drawn at all.
 void FormView::markStale(std::size_t item) {
   items_[item].stale = true;
   if (anyStale_) return;
   anyStale_ = true;
-  QCoreApplication::postEvent(this, new QEvent(refreshEvent), Qt::HighEventPriority);
-}
-
-bool FormView::event(QEvent* event) {
-  if (event->type() != refreshEvent) return QWidget::event(event);
-  refreshStale();
-  return true;
+  QMetaObject::invokeMethod(
+      this, [this] { refreshStale(); }, Qt::QueuedConnection);
 }
 
 void FormView::refreshStale() {
@@ -128,7 +122,7 @@ void FormView::refreshStale() {
     item.stale = false;
     const Look before = std::exchange(item.look, lookOf(item.control));
     const bool wasEnabled = std::exchange(item.enabled, takesInput(item.control));
-    if (QAccessible::isActive()) announce(i, before, wasEnabled);
+    if (itemChanged) itemChanged(i, before, wasEnabled);
     if (item.look == before || (!item.look.visible && !before.visible)) continue;
     for (const QRect& rect : uncovered(i)) {
       update(rect.adjusted(-margin, -margin, margin, margin));
@@ -136,31 +130,12 @@ void FormView::refreshStale() {
   }
 }
 
-void FormView::announce(std::size_t item, const Look& before, bool wasEnabled) {
-  QAccessibleInterface* view = QAccessible::queryAccessibleInterface(this);
-  auto* presented = dynamic_cast<AccessibleView*>(view);
-  QAccessibleInterface* child = presented == nullptr ? nullptr : presented->childOfItem(item);
-  if (child == nullptr) return;
-  const Item& now = items_[item];
-  if (now.look.text != before.text) {
-    QAccessibleEvent event(child, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&event);
-  }
-  QAccessible::State changes;
-  changes.disabled = now.enabled != wasEnabled;
-  changes.invisible = now.look.visible != before.visible;
-  if (changes.disabled || changes.invisible) {
-    QAccessibleStateChangeEvent event(child, changes);
-    QAccessible::updateAccessibility(&event);
-  }
-}
-
 const platform::Accessible& FormView::accessibleOf(std::size_t item) const {
   return qt::accessibleOf(items_[item].control);
 }
 
-bool FormView::isItemVisible(std::size_t item) const {
-  return lookOf(items_[item].control).visible;
+Look FormView::lookOfItem(std::size_t item) const {
+  return lookOf(items_[item].control);
 }
 
 bool FormView::isItemEnabled(std::size_t item) const {
@@ -199,12 +174,12 @@ void FormView::paintEvent(QPaintEvent* event) {
 
   // From front to back each control gets the pixels that none before it has taken, so that every
   // pixel is drawn once and what is wholly covered not at all.
-  struct Part {
+  struct Piece {
     const Item* item;
     QRect rect;
     QRegion region;
   };
-  std::vector<Part> parts;
+  std::vector<Piece> pieces;
   QRegion left = pixelRegion(event->region(), toPixels);
   for (const Item& item : items_ | std::views::reverse) {
     if (!item.look.visible) continue;
@@ -212,14 +187,14 @@ void FormView::paintEvent(QPaintEvent* event) {
     const QRegion region = left & rect;
     if (region.isEmpty()) continue;
     left -= rect;
-    parts.push_back({&item, rect, region});
+    pieces.push_back({&item, rect, region});
   }
   painter.setClipRegion(left);
   painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, palette()));
-  for (const Part& part : parts) {
-    painter.setClipRegion(part.region);
-    drawControl(part.item->control, part.item->look,
-                {painter, part.rect, scale, palette(), static_cast<double>(logicalDpiY())});
+  for (const Piece& piece : pieces) {
+    painter.setClipRegion(piece.region);
+    drawControl(piece.item->control, piece.item->look,
+                {painter, piece.rect, scale, palette(), static_cast<double>(logicalDpiY())});
     ++drawnControls_;
   }
 }
@@ -240,20 +215,22 @@ FormView::Item* FormView::itemAt(QPointF point) {
 
 void FormView::mousePressEvent(QMouseEvent* event) {
   const Item* item = itemAt(event->position());
-  if (item == nullptr) return;
-  if (auto* const* cell = std::get_if<platform::CellPane*>(&item->control)) {
-    pressed_ = *cell;
-    pressed_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
-                     event->position().x() * twipsPerPixel - item->place.left,
-                     event->position().y() * twipsPerPixel - item->place.top});
-  }
+  auto* const* cell = item == nullptr ? nullptr : std::get_if<platform::CellPane*>(&item->control);
+  const bool first = event->buttons() == event->button();
+  if (first) pressed_ = cell == nullptr ? nullptr : *cell;
+  if (cell == nullptr) return;
+  (*cell)->press({toMouseButton(event->button()), shiftState(event->modifiers()),
+                  event->position().x() * twipsPerPixel - item->place.left,
+                  event->position().y() * twipsPerPixel - item->place.top});
 }
 
 void FormView::mouseReleaseEvent(QMouseEvent* event) {
   if (pressed_ == nullptr) return;
   const Item* item = itemAt(event->position());
   const bool inside = item != nullptr && item->control == DrawnControl(pressed_);
-  pressed_->release(toMouseButton(event->button()), inside);
+  platform::CellPane* cell = pressed_;
+  if (event->buttons() == Qt::NoButton) pressed_ = nullptr;
+  cell->release(toMouseButton(event->button()), inside);
 }
 
 void FormView::changeEvent(QEvent* event) {

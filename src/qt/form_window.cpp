@@ -5,15 +5,16 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "qt/convert.h"
 #include "qt/form_view.h"
-#include "qt/look.h"
 #include "qt/modal.h"
 
 namespace qt {
-FormWindow::FormWindow(platform::Form& form, QWidget* parent)
-    : QMainWindow(parent, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                              Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
-                              Qt::WindowCloseButtonHint),
+
+FormWindow::FormWindow(platform::Form& form)
+    : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                               Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                               Qt::WindowCloseButtonHint),
       form_(form),
       view_(new FormView(form, this)) {
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
@@ -24,6 +25,11 @@ FormWindow::FormWindow(platform::Form& form, QWidget* parent)
   }
   setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+FormWindow::~FormWindow() {
+  form_.changed = nullptr;
+  for (platform::MenuItem* item : items_) item->changed = nullptr;
 }
 
 void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
@@ -39,6 +45,7 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
     };
     show();
     entry->changed = show;
+    items_.push_back(entry);
     // Queued, so that a client of assistive technology that chooses the item is not kept waiting
     // by a box that it brings up.
     connect(

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <vector>
 
 #include "platform/form.h"
 
@@ -11,7 +12,8 @@ class FormView;
 /// A window that shows a form: its title, icon, menu bar and client area.
 class FormWindow final : public QMainWindow {
  public:
-  explicit FormWindow(platform::Form& form, QWidget* parent = nullptr);
+  explicit FormWindow(platform::Form& form);
+  ~FormWindow() override;
 
   FormView& view() const { return *view_; }
 
@@ -22,6 +24,7 @@ class FormWindow final : public QMainWindow {
   void addMenu(QMenu& menu, const platform::MenuItem& item);
 
   platform::Form& form_;
+  std::vector<platform::MenuItem*> items_;  ///< those that this window shows
   FormView* view_;
 };
 

@@ -1,11 +1,13 @@
 #include "qt/help_window.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QStringDecoder>
 #include <QToolBar>
+#include <algorithm>
 
-#include "qt/look.h"
+#include "qt/convert.h"
 
 namespace qt {
 namespace {
@@ -30,7 +32,7 @@ QString faultOf(const QString& path) {
 }  // namespace
 
 HelpWindow::HelpWindow() : text_(new QTextBrowser(this)) {
-  setWindowTitle("Tessoro Help");
+  setWindowTitle(QCoreApplication::applicationName() + " Help");
   setCentralWidget(text_);
   resize(560, 620);
   text_->setOpenExternalLinks(false);
@@ -63,14 +65,10 @@ bool HelpWindow::showContents(const QString& path) {
 bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,
                             unsigned /*command*/, unsigned /*data*/) {
   const QString name = toQString(file);
-  QString path = name;
-  for (const QString& folder : folders_) {
-    const QString candidate = QDir(folder).filePath(name);
-    if (QFile::exists(candidate)) {
-      path = candidate;
-      break;
-    }
-  }
+  const auto folder = std::find_if(folders_.begin(), folders_.end(), [&](const QString& candidate) {
+    return QDir(candidate).exists(name);
+  });
+  const QString path = QDir(folder == folders_.end() ? folders_.first() : *folder).filePath(name);
   if (!window_) {
     window_ = std::make_unique<HelpWindow>();
     if (owner.icon != nullptr) window_->setWindowIcon(toQIcon(*owner.icon));

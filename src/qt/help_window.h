@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QTextBrowser>
 #include <memory>
+#include <string_view>
+#include <utility>
 
 #include "platform/help_viewer.h"
 

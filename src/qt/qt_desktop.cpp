@@ -5,14 +5,12 @@
 #include <cstdlib>
 
 #include "qt/accessible_view.h"
+#include "qt/convert.h"
 #include "qt/form_dialog.h"
 #include "qt/form_window.h"
-#include "qt/look.h"
 
 namespace qt {
 namespace {
-
-std::string programName;
 
 /// The toolkit aborts where it finds no display, which would leave a core dump and three
 /// paragraphs of plug-in names instead of the one fact that matters.
@@ -20,14 +18,15 @@ void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
                      const QString& /*message*/) {
   if (type != QtFatalMsg) return;
   std::fprintf(stderr, "%s: cannot open a window, because there is no display to open it on.\n",
-               programName.c_str());
+               qPrintable(QCoreApplication::applicationName()));
   std::_Exit(EXIT_FAILURE);
 }
 
 }  // namespace
 
-std::unique_ptr<QApplication> QtDesktop::connect(Arguments& arguments, const Program& program) {
-  programName = program.name;
+std::unique_ptr<QApplication> QtDesktop::makeApplication(Arguments& arguments,
+                                                         const Program& program) {
+  QCoreApplication::setApplicationName(toQString(program.name));
   const QtMessageHandler handler = qInstallMessageHandler(reportNoDisplay);
   auto application = std::make_unique<QApplication>(arguments.count, arguments.values);
   qInstallMessageHandler(handler);
@@ -37,13 +36,12 @@ std::unique_ptr<QApplication> QtDesktop::connect(Arguments& arguments, const Pro
 QtDesktop::QtDesktop(char* programPath, Program program)
     : program_(std::move(program)),
       arguments_{1, {programPath, nullptr}},
-      application_(connect(arguments_, program_)),
+      application_(makeApplication(arguments_, program_)),
       printer_(toQString(program_.documentName),
                [this](std::string_view text) { messageBox(text, Buttons::ok); }),
       helpViewer_(
           {QApplication::applicationDirPath(),
            QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
-  QApplication::setApplicationName(toQString(program_.name));
   QGuiApplication::setDesktopFileName(toQString(program_.packageName));
   substituteFonts();
   installAccessibleViews();
@@ -69,7 +67,7 @@ void QtDesktop::yield() {
 }
 
 void QtDesktop::showModal(platform::Form& form) {
-  FormDialog(form, main_.get()).show();
+  FormDialog(form, main_.get()).run();
 }
 
 void QtDesktop::endProgram() {
@@ -84,9 +82,16 @@ FormWindow& QtDesktop::show(platform::Form& form) {
   return *main_;
 }
 
+void QtDesktop::close() {
+  printer_.setParentWindow(nullptr);
+  main_.reset();
+}
+
 int QtDesktop::run(platform::Form& form) {
   show(form);
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  close();
+  return status;
 }
 
 }  // namespace qt

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/clock.h"
 #include "platform/desktop.h"
@@ -38,8 +39,10 @@ class QtDesktop final : public platform::Desktop {
   double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
   [[noreturn]] void endProgram() override;
 
-  /// Shows the form as the program's main window.
+  /// Shows the form as the program's main window, until it is closed, which has to be before the
+  /// form's end.
   FormWindow& show(platform::Form& form);
+  void close();
   /// Shows the form and handles its events until the program ends; the program's exit status.
   int run(platform::Form& form);
 
@@ -50,7 +53,8 @@ class QtDesktop final : public platform::Desktop {
     char* values[2];
   };
 
-  static std::unique_ptr<QApplication> connect(Arguments& arguments, const Program& program);
+  static std::unique_ptr<QApplication> makeApplication(Arguments& arguments,
+                                                       const Program& program);
 
   Program program_;
   Arguments arguments_;

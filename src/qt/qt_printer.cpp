@@ -13,7 +13,7 @@
 #include <QTemporaryFile>
 #include <algorithm>
 
-#include "qt/look.h"
+#include "qt/convert.h"
 
 namespace qt {
 namespace {
@@ -26,6 +26,10 @@ constexpr double smallestMargin = pointsPerInch / 4;
 /// The width of a character of the fixed-pitch typefaces that `font` may be, in ems: 12 points make
 /// 10 characters to the inch.
 constexpr double characterWidth = 0.6;
+
+/// The size at which lines are drawn before they are scaled to that of the font: typefaces take
+/// whole numbers only.
+constexpr int drawnSize = 100;
 
 /// How long the print system may take to accept a job, in milliseconds.
 constexpr int patience = 10000;
@@ -72,16 +76,17 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   QFont font(toQString(font_.name));
   font.setStyleHint(QFont::TypeWriter);
   font.setFixedPitch(true);
-  font.setPixelSize(static_cast<int>(font_.points));
+  font.setPixelSize(drawnSize);
   painter.setFont(font);
   // A stand-in of another width is stretched, so that columns stand where they should.
-  const QString widest(columns, 'M');
-  const double stretch = width / QFontMetricsF(font, &writer).horizontalAdvance(widest);
-  painter.scale(stretch, 1);
-  double baseline = QFontMetricsF(font, &writer).ascent();
+  const QFontMetricsF metrics(font, &writer);
+  const double lineScale = font_.points / drawnSize;
+  const double columnScale = width / metrics.horizontalAdvance(QString(columns, 'M'));
+  painter.scale(columnScale, lineScale);
+  double baseline = metrics.ascent();
   for (const QString& line : lines_) {
     painter.drawText(QPointF(0, baseline), line);
-    baseline += linePitch;
+    baseline += linePitch / lineScale;
   }
   painter.end();
   return buffer.data();
@@ -106,8 +111,7 @@ void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
   QProcess job;
   if (file.open() && file.write(pdf) == pdf.size() && file.flush()) {
     job.start("lp", {"-d", printer, "-t", documentName_, file.fileName()});
-    job.waitForFinished(patience);
-    if (job.error() == QProcess::UnknownError && job.exitStatus() == QProcess::NormalExit &&
+    if (job.waitForFinished(patience) && job.exitStatus() == QProcess::NormalExit &&
         job.exitCode() == 0) {
       return;
     }

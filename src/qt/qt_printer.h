@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <string_view>
+#include <utility>
 
 #include "platform/control.h"
 #include "platform/printer.h"

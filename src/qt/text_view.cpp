@@ -1,6 +1,6 @@
 #include "qt/text_view.h"
 
-#include "qt/look.h"
+#include "qt/convert.h"
 
 namespace qt {
 

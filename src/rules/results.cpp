@@ -1,6 +1,8 @@
 #include "rules/results.h"
 
 #include <algorithm>
+#include <array>
+#include <string>
 
 #include "board/captions.h"
 #include "rules/eval_line.h"

@@ -1,7 +1,5 @@
 #include "solver/set_a_puzzle.h"
 
-#include "board/captions.h"
-
 namespace tessoro {
 
 using platform::Desktop;
@@ -20,6 +18,7 @@ void SetAPuzzle::enter() {
     Cell& corner = board_.GridDisp[CornerCells[k]];
     corner.enabled = true;
     corner.caption = "?";
+    state_.*cornerTargets[k] = 0;
   }
   board_.colourCorners(ColRed);
   board_.setOuterCornersVisible(false);
@@ -29,9 +28,6 @@ void SetAPuzzle::enter() {
   controls_.RightMess.Visible = false;
   controls_.CompMess.Visible = true;
   controls_.Solveit.Visible = true;
-  for (int k = 1; k <= 4; ++k) {
-    state_.*cornerTargets[k] = readNumber(board_.GridDisp[CornerCells[k]].caption());
-  }
   controls_.StartSolx.enabled = false;
   controls_.ShowSolx.enabled = false;
   controls_.NewPuz.Visible = false;

@@ -32,7 +32,8 @@ TEST_F(SearchTest, TheTableDecidesAndARowThatDoesNotFitIsDrawnAgainAlone) {
     for (int k = 0; k < 3; ++k) state.SolNumbers[start + k * step] = {' ', line[k]};
     state.TargetTR = state.TargetBR = target;
     step == 1 ? attempt.ChooseRowPair(start) : attempt.ChooseColPair(start);
-    return std::string(attempt.LineOp1) + std::string(attempt.LineOp2) + std::string(attempt.LineResult);
+    return std::string(attempt.LineOp1) + std::string(attempt.LineOp2) +
+           std::string(attempt.LineResult);
   };
   EXPECT_EQ(choose(1, 1, "123", 0), "++ 6");
   EXPECT_EQ(choose(1, 1, "999", 0), "+- 9");

@@ -1,4 +1,4 @@
-#include "qt/look.h"
+#include "qt/convert.h"
 
 #include <QApplication>
 #include <charconv>
