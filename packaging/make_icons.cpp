@@ -6,7 +6,7 @@
 #include <map>
 
 #include "app/pictures.h"
-#include "qt/look.h"
+#include "qt/convert.h"
 
 namespace {
 

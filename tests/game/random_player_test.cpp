@@ -1,4 +1,5 @@
 #include <iostream>
+#include <random>
 
 #include "fixture.h"
 #include "invariants.h"
