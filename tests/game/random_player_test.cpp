@@ -14,7 +14,7 @@ class RandomPlayer {
  public:
   explicit RandomPlayer(unsigned seed) : seed_(seed), random_(seed) {
     desktop_.onYield = [this] {
-      if (!one(20)) return;
+      if (!one(3)) return;
       const std::string before = Invariants::look(game_);
       event();
       if (Invariants::look(game_) != before) broken_ = "a running search is left alone";
@@ -50,7 +50,7 @@ class RandomPlayer {
     desktop_.answer = one(2) ? platform::Desktop::Answer::yes : platform::Desktop::Answer::no;
     if (one(50)) desktop_.tick = one(2) ? 0 : below(2000) - 1000.5;
     Form1& form = game_.form;
-    const int kind = below(100);
+    const int kind = game_.search.underWay() ? 70 + below(30) : below(100);
     if (kind < 80) {
       pressedInPlay_ = !game_.state.SolveMode && !game_.search.underWay();
       form.board.GridDisp[below(boardCells)].press({.button = anyButton()});
