@@ -126,7 +126,11 @@ void QtPrinter::saveAsPdf() {
   if (name.isEmpty()) return;
   QSaveFile file(name);
   const QByteArray pdf = sheet(usualPaper());
-  if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.commit()) return;
+  // Flushed first, because committing does not notice that a disk is full.
+  if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() &&
+      file.commit()) {
+    return;
+  }
   report_("The page could not be saved there. It can be printed again.");
 }
 
