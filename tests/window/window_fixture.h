@@ -2,16 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTest>
-#include <QTimer>
+#include <QtTest>
+#include <QtWidgets>
 
 #include "app/game.h"
-#include "board/captions.h"
+#include "app/program.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
-#include "qt/qt_desktop.h"
 
 namespace tessoro::test {
 
@@ -19,67 +16,57 @@ namespace tessoro::test {
 inline qt::QtDesktop* theDesktop = nullptr;
 
 /// The game in a real window of the toolkit.
-class WindowTest : public testing::Test {
- protected:
+struct WindowTest : testing::Test {
   ReseededDigits digits{*theDesktop};
   Game game{*theDesktop, digits};
-  qt::FormWindow* window = nullptr;
+  qt::FormWindow& window = theDesktop->show(game.form);
+  qt::FormView& view = window.view();
+  std::map<QString, QAction*> menu;  ///< its commands by the captions that they have at first
+  std::vector<QString> messages;
+  /// Works the modal box that has come up; as it stands, answers a message with OK or Yes.
+  std::function<void(QWidget*)> onModal = [this](QWidget* modal) {
+    auto* box = dynamic_cast<QMessageBox*>(modal);
+    messages.push_back(box->windowTitle() + ": " + box->text());
+    box->buttons().first()->click();
+  };
+  QTimer watch;
 
-  void SetUp() override {
+  WindowTest() {
+    QTimer::connect(&watch, &QTimer::timeout, [this] {
+      if (QWidget* modal = QApplication::activeModalWidget()) onModal(modal);
+    });
+    watch.start(1);
+    const auto commands = window.menuBar()->actions().first()->menu()->actions();
+    for (QAction* command : commands) menu[command->text()] = command;
     game.startUp.Form_Load();
-    window = &theDesktop->show(game.form);
     settle();
   }
+  ~WindowTest() override { theDesktop->close(); }
 
   static void settle() { QApplication::processEvents(); }
-
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
-
-  /// The point of the client area, in device-independent pixels, at the middle of the control.
-  QPoint middleOf(const platform::Control& control) const {
-    const platform::Place& frame = game.form.Frame1.place;
-    return {(frame.left + control.place.left + control.place.width / 2) / 15,
-            (frame.top + control.place.top + control.place.height / 2) / 15};
+  /// The middle of a control in the client area, where the frame begins at (4, 4).
+  static QPoint middleOf(const platform::Control& control) {
+    const platform::Place& place = control.place;
+    return {4 + (place.left + place.width / 2) / 15, 4 + (place.top + place.height / 2) / 15};
   }
   void click(const platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(&window->view(), button, {}, middleOf(control));
+    QTest::mouseClick(&view, button, {}, middleOf(control));
   }
-  void turnTo(int index, std::string_view text) {
-    for (int presses = 0; caption(index) != text && presses < 10; ++presses) click(cell(index));
-    ASSERT_EQ(caption(index), text);
+  void choose(const QString& command) {
+    menu.at(command)->trigger();
+    settle();
   }
-  /// Plays the stored solution, or less of it where that is enough for the four corners.
-  void playSolution() {
-    for (int k = 1; k <= 16 && !game.state.BoardLocked; ++k) {
-      turnTo(operatorCells[k], game.state.SolOperators[k]);
-      if (cell(numberCells[k]).enabled() && !game.state.BoardLocked) {
-        turnTo(numberCells[k], trimmed(game.state.SolNumbers[k]));
-      }
+  /// Has cells pressed until they show the stored solution, or enough of it to be right.
+  void playSolution(const std::function<void(int)>& press) {
+    for (int turn = 0; turn < 16 * 9 && !game.state.BoardLocked; ++turn) {
+      const int k = turn / 9 + 1;
+      if (caption(operatorCells[k]) != game.state.SolOperators[k]) press(operatorCells[k]);
+      if (game.state.BoardLocked || !cell(numberCells[k]).enabled()) continue;
+      if (" " + caption(numberCells[k]) != game.state.SolNumbers[k]) press(numberCells[k]);
     }
   }
-  /// What the window shows, at the scale factor of the screen.
-  QImage picture() {
-    settle();
-    return window->view().grab().toImage();
-  }
-
-  /// Answers the message boxes that come up, and keeps their texts.
-  std::vector<std::string> messages;
-  void answerBoxes(QMessageBox::StandardButton answer) {
-    answering_.disconnect();
-    QObject::connect(&answering_, &QTimer::timeout, [this, answer] {
-      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        messages.push_back(box->windowTitle().toStdString() + ": " + box->text().toStdString());
-        auto* button = box->button(answer);
-        (button != nullptr ? button : box->buttons().first())->click();
-      }
-    });
-    answering_.start(1);
-  }
-
- private:
-  QTimer answering_;
 };
 
 }  // namespace tessoro::test

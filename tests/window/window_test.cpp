@@ -1,0 +1,111 @@
+#include "window_fixture.h"
+
+namespace tessoro::test {
+
+TEST_F(WindowTest, TheMousePlaysAWholePuzzle) {
+  EXPECT_EQ(view.size(), QSize(302, 310));
+  EXPECT_GE(view.mapTo(&window, QPoint()).y(), window.menuBar()->height());
+  click(cell(17), Qt::RightButton);
+  EXPECT_EQ(caption(17), "9");
+  click(cell(17), Qt::BackButton);
+  for (const int silent : {9, 20, 51}) click(cell(silent));
+  // Cells 4 and 5 both have the pixels 160 and 161 of the frame; 5 lies in front.
+  QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(4 + 161, 4 + 60));
+  EXPECT_EQ(caption(17) + caption(9) + caption(20) + caption(4) + "|" + caption(5), "1=|1");
+
+  playSolution([&](int index) { click(cell(index)); });
+  EXPECT_EQ(messages, std::vector<QString>{"TESSORO: You got it !"});
+  QTest::mousePress(&view, Qt::LeftButton, {}, middleOf(game.form.NewPuz));
+  QTest::mouseRelease(&view, Qt::LeftButton, {}, QPoint(5, 5));
+  EXPECT_EQ(window.windowTitle(), "Puzzle Number  1") << "released outside";
+  click(game.form.NewPuz);
+  EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
+}
+
+TEST_F(WindowTest, APressRedrawsOnlyWhatItChanges) {
+  choose("Start a Solution");
+  game.state.SolNumbers[16].clear();  // the last corner stays wrong: no face comes or goes
+  settle();
+  view.repaint();
+  for (int press = 1; press <= 9; ++press) {
+    std::vector<qt::Look> before;
+    for (Cell& it : game.form.board.GridDisp) before.push_back(qt::lookOf(&it));
+    const long drawn = view.drawnControls();
+    click(cell(17));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.drawnControls() > drawn; }));
+    long changed = 0;
+    for (int i = 0; i < boardCells; ++i) changed += qt::lookOf(&cell(i)) == before[i] ? 0 : 1;
+    EXPECT_EQ(view.drawnControls() - drawn, changed) << press;
+  }
+}
+
+TEST_F(WindowTest, TheMenuFollowsTheMode) {
+  const QString mode = "Set a Puzzle for computer to solve";
+  choose(mode);
+  EXPECT_EQ(menu.at(mode)->text(), "End computer solution mode");
+  EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.at("Show Solution")->isEnabled());
+  click(game.form.Solveit, Qt::RightButton);  // disabled until a corner is pressed
+  click(cell(7));
+  click(game.form.Solveit, Qt::RightButton);
+  EXPECT_EQ(messages, std::vector<QString>{"TESSORO: Help Here"});
+  choose(mode);
+  EXPECT_TRUE(menu.at("Start a Solution")->isEnabled() && menu.at("Show Solution")->isEnabled());
+}
+
+TEST_F(WindowTest, ClosingItEndsTheProgram) {
+  EXPECT_EXIT(window.close(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
+  int shown = 0;
+  onModal = [&](QWidget* box) {
+    auto* text = box->findChild<QTextEdit*>();
+    EXPECT_EQ(box->windowTitle() + text->toPlainText(),
+              "About Tessoro\nTessoro, written by the Tessoro developers\ntessoro@example.org");
+    EXPECT_EQ(box->size(), QSize(317, 97));
+    EXPECT_LE(text->document()->size().height(), text->height()) << "nothing is cut";
+    EXPECT_EQ(box->focusWidget(), box->findChild<QPushButton*>());
+    ++shown;
+    if (shown == 1) QTest::keyClick(box, Qt::Key_Return);
+    if (shown == 2) QTest::mousePress(text->viewport(), Qt::MiddleButton);
+    if (shown > 2) box->close();
+  };
+  for (int i = 0; i < 3; ++i) choose("About");
+  EXPECT_EQ(shown, 3);
+}
+
+TEST_F(WindowTest, HelpIsReadBesideTheGame) {
+  choose("Help");
+  auto* help = dynamic_cast<qt::HelpWindow*>(QApplication::activeWindow());
+  ASSERT_NE(help, nullptr);
+  auto* text = help->findChild<QTextBrowser*>();
+  const int top = text->verticalScrollBar()->value();
+  onModal = [&](QWidget* box) {
+    QTest::keyClick(help->windowHandle(), Qt::Key_Tab);
+    QTest::keyClick(help->windowHandle(), Qt::Key_Return);
+    EXPECT_GT(text->verticalScrollBar()->value(), top) << "the first link leads on";
+    help->findChild<QToolBar*>()->actions().at(1)->trigger();
+    EXPECT_EQ(text->verticalScrollBar()->value(), top) << "and Back leads back";
+    box->close();
+  };
+  choose("About");
+  help->close();
+  choose("Help");
+  EXPECT_EQ(QApplication::activeWindow(), help);
+
+  const QTemporaryDir folder;
+  QFile file(folder.filePath("some.hlp"));
+  const QString said = "The help file \"some.hlp\" ";
+  for (const auto& [content, shown] :
+       std::map<QByteArray, QString>{{{}, said + "cannot be found."},
+                                     {" \n", said + "is empty."},
+                                     {"\x89PNG", said + "is damaged: it is not a text."},
+                                     {"<h1>Help</h1>", "Help"}}) {
+    if (!content.isNull() && file.open(QIODevice::WriteOnly)) file.write(content);
+    file.close();
+    help->showContents(file.fileName());
+    EXPECT_EQ(text->toPlainText(), shown);
+  }
+}
+
+}  // namespace tessoro::test
