@@ -135,6 +135,11 @@ void AccessibleView::announce(std::size_t item, const Look& before, bool wasEnab
     QAccessibleStateChangeEvent event(changed, changes);
     QAccessible::updateAccessibility(&event);
   }
+  if (changes.invisible) {
+    QAccessibleEvent event(changed,
+                           now.visible ? QAccessible::ObjectShow : QAccessible::ObjectHide);
+    QAccessible::updateAccessibility(&event);
+  }
 }
 
 int AccessibleView::indexOfChild(const QAccessibleInterface* child) const {

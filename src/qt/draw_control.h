@@ -27,9 +27,9 @@ struct Look {
 struct Canvas {
   QPainter& painter;  ///< in pixels of the screen
   QRect rect;         ///< the control's, in these pixels
-  double scale;       ///< pixels of the screen to a device-independent one
+  double scale = 1;   ///< pixels of the screen to a device-independent one
   const QPalette& palette;
-  double logicalDpi;
+  double logicalDpi = 96;
 };
 
 void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);

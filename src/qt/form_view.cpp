@@ -3,8 +3,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <algorithm>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 #include "platform/cell_pane.h"
@@ -71,7 +71,8 @@ FormView::~FormView() {
 void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
   const auto addAtPlace = [&](auto* control) {
     const platform::Place& place = control->place;
-    add(*control, {holder.left + place.left, holder.top + place.top, place.width, place.height});
+    this->add(*control,
+              {holder.left + place.left, holder.top + place.top, place.width, place.height});
   };
   for (const platform::ControlRef& control : controls) std::visit(addAtPlace, control);
 }
@@ -181,7 +182,8 @@ void FormView::paintEvent(QPaintEvent* event) {
   };
   std::vector<Piece> pieces;
   QRegion left = pixelRegion(event->region(), toPixels);
-  for (const Item& item : items_ | std::views::reverse) {
+  for (auto at = items_.crbegin(); at != items_.crend(); ++at) {
+    const Item& item = *at;
     if (!item.look.visible) continue;
     const QRect rect = pixelRect(item.place, scale, origin);
     const QRegion region = left & rect;
@@ -204,13 +206,11 @@ FormView::Item* FormView::itemAt(QPointF point) {
     const double twips = at * twipsPerPixel;
     return twips >= start && twips < start + size;
   };
-  for (Item& item : items_ | std::views::reverse) {
-    if (lookOf(item.control).visible && inside(point.x(), item.place.left, item.place.width) &&
-        inside(point.y(), item.place.top, item.place.height)) {
-      return &item;
-    }
-  }
-  return nullptr;
+  const auto item = std::find_if(items_.rbegin(), items_.rend(), [&](const Item& it) {
+    return lookOf(it.control).visible && inside(point.x(), it.place.left, it.place.width) &&
+           inside(point.y(), it.place.top, it.place.height);
+  });
+  return item == items_.rend() ? nullptr : &*item;
 }
 
 void FormView::mousePressEvent(QMouseEvent* event) {

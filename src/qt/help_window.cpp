@@ -16,8 +16,9 @@ namespace {
 QString faultOf(const QString& path) {
   const QString name = QFileInfo(path).fileName();
   QFile file(path);
+  if (!file.exists()) return QString("The help file \"%1\" cannot be found.").arg(name);
   if (!file.open(QIODevice::ReadOnly)) {
-    return QString("The help file \"%1\" cannot be found.").arg(name);
+    return QString("The help file \"%1\" cannot be read.").arg(name);
   }
   const QByteArray content = file.readAll();
   if (content.trimmed().isEmpty()) return QString("The help file \"%1\" is empty.").arg(name);
@@ -36,11 +37,12 @@ HelpWindow::HelpWindow() : text_(new QTextBrowser(this)) {
   setCentralWidget(text_);
   resize(560, 620);
   text_->setOpenExternalLinks(false);
+  text_->setAccessibleName("Help");
   QToolBar* bar = addToolBar("Navigation");
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   QAction* contents = bar->addAction("Contents");
-  connect(contents, &QAction::triggered, text_, &QTextBrowser::home);
+  connect(contents, &QAction::triggered, this, [this] { showContents(path_); });
   QAction* back = bar->addAction("Back");
   back->setEnabled(false);
   connect(back, &QAction::triggered, text_, &QTextBrowser::backward);
@@ -48,14 +50,16 @@ HelpWindow::HelpWindow() : text_(new QTextBrowser(this)) {
 }
 
 bool HelpWindow::showContents(const QString& path) {
+  path_ = path;
   const QString fault = faultOf(path);
   if (fault.isEmpty()) {
     text_->setSource(QUrl::fromLocalFile(path), QTextDocument::HtmlResource);
-    text_->clearHistory();
+    text_->reload();  // for it may have changed
     text_->scrollToAnchor("contents");
   } else {
     text_->setPlainText(fault);
   }
+  text_->clearHistory();
   showNormal();
   raise();
   activateWindow();

@@ -22,6 +22,7 @@ class HelpWindow final : public QMainWindow {
 
  private:
   QTextBrowser* text_;
+  QString path_;  ///< of the file last asked for
 };
 
 /// Finds help files in the given folders and shows them in one window, made when first needed.

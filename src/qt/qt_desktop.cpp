@@ -1,8 +1,10 @@
 #include "qt/qt_desktop.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
-#include <cstdio>
+#include <QSettings>
 #include <cstdlib>
+#include <iostream>
 
 #include "qt/accessible_view.h"
 #include "qt/convert.h"
@@ -12,13 +14,15 @@
 namespace qt {
 namespace {
 
+constexpr int roomForTitle = 170;  // device-independent pixels
+
 /// The toolkit aborts where it finds no display, which would leave a core dump and three
 /// paragraphs of plug-in names instead of the one fact that matters.
 void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
                      const QString& /*message*/) {
   if (type != QtFatalMsg) return;
-  std::fprintf(stderr, "%s: cannot open a window, because there is no display to open it on.\n",
-               qPrintable(QCoreApplication::applicationName()));
+  std::cerr << qPrintable(QCoreApplication::applicationName())
+            << ": cannot open a window, because there is no display to open it on.\n";
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -28,7 +32,7 @@ std::unique_ptr<QApplication> QtDesktop::makeApplication(Arguments& arguments,
                                                          const Program& program) {
   QCoreApplication::setApplicationName(toQString(program.name));
   const QtMessageHandler handler = qInstallMessageHandler(reportNoDisplay);
-  auto application = std::make_unique<QApplication>(arguments.count, arguments.values);
+  auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
   qInstallMessageHandler(handler);
   return application;
 }
@@ -43,6 +47,8 @@ QtDesktop::QtDesktop(char* programPath, Program program)
           {QApplication::applicationDirPath(),
            QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
   QGuiApplication::setDesktopFileName(toQString(program_.packageName));
+  // The toolkit's file dialog would keep a file of settings in the user's home.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
   installAccessibleViews();
 }
@@ -53,6 +59,11 @@ platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons b
   QMessageBox box(main_.get());
   box.setWindowTitle(toQString(program_.messageTitle));
   box.setText(toQString(text));
+  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                     Qt::WindowCloseButtonHint);
+  // Room for the title, which is wider than the shortest texts.
+  auto* grid = static_cast<QGridLayout*>(box.layout());
+  grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
   // Modal to the main window alone: help stays readable beside it.
   box.setWindowModality(Qt::WindowModal);
   box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok

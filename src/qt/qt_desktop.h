@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QApplication>
+#include <array>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -50,7 +51,7 @@ class QtDesktop final : public platform::Desktop {
   /// The toolkit's own arguments: the program's path alone, since it takes no others.
   struct Arguments {
     int count = 1;
-    char* values[2];
+    std::array<char*, 2> values = {};
   };
 
   static std::unique_ptr<QApplication> makeApplication(Arguments& arguments,

@@ -36,7 +36,7 @@ constexpr int patience = 10000;
 
 QPageSize usualPaper() {
   const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
-  return QPageSize(metric ? QPageSize::A4 : QPageSize::Letter);
+  return {metric ? QPageSize::A4 : QPageSize::Letter};
 }
 
 QPrinterInfo printerToUse() {
@@ -120,11 +120,13 @@ void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
 }
 
 void QtPrinter::saveAsPdf() {
-  const QString name =
-      QFileDialog::getSaveFileName(window_, "No printer was found: save the page as PDF",
-                                   QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
-  if (name.isEmpty()) return;
-  QSaveFile file(name);
+  QFileDialog dialog(window_, "No printer was found: save the page as PDF",
+                     QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("pdf");
+  dialog.setWindowModality(Qt::WindowModal);
+  if (dialog.exec() != QDialog::Accepted) return;
+  QSaveFile file(dialog.selectedFiles().first());
   const QByteArray pdf = sheet(usualPaper());
   // Flushed first, because committing does not notice that a disk is full.
   if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() &&

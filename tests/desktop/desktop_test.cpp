@@ -9,7 +9,6 @@
 /// The program as it is installed, on an X server of its own: this process is another client, which
 /// moves the mouse through the server and sees nothing but the screen.
 namespace tessoro::test {
-namespace {
 
 /// A program that ends with the test, even with one that is cut off.
 struct Process : QProcess {
@@ -17,10 +16,7 @@ struct Process : QProcess {
     setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     start(command, arguments);
   }
-  ~Process() override {
-    kill();
-    waitForFinished();
-  }
+  ~Process() override { close(); }
 };
 
 QString xdotool(const QString& arguments) {
@@ -35,8 +31,7 @@ bool eventually(const std::function<bool()>& condition) {
   return condition();
 }
 
-class DesktopTest : public testing::Test {
- protected:
+struct DesktopTest : testing::Test {
   Process program{TESSORO_PROGRAM, {"-platform", "nonsense"}};
   QString window;  ///< the number that the server has for it
 
@@ -45,8 +40,7 @@ class DesktopTest : public testing::Test {
       window = xdotool("search --onlyvisible --name ^Puzzle\\sNumber\\s\\s1$");
       return !window.isEmpty();
     })) << "the window is titled with the first puzzle's number";
-    ASSERT_TRUE(eventually([&] { return colourOf(49) == qRgb(0, 128, 0); }))
-        << "the board is drawn";
+    ASSERT_TRUE(eventually([&] { return colourOf(49) == qRgb(0, 128, 0); })) << "it is drawn";
   }
 
   QImage picture() const {
@@ -95,17 +89,13 @@ TEST(NoDisplayTest, OneLineSaysSoAndThereIsNoCoreDump) {
   EXPECT_EQ(program.exitCode(), 1);
 }
 
-}  // namespace
 }  // namespace tessoro::test
 
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
   tessoro::test::Process server(
       "Xvfb", {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
-  if (!server.waitForReadyRead(10000)) {
-    std::fputs("Xvfb does not start.\n", stderr);
-    return 1;
-  }
+  if (!server.waitForReadyRead(10000)) qFatal("Xvfb does not start.");
   qputenv("DISPLAY", ":" + server.readLine().trimmed());
   qunsetenv("QT_QPA_PLATFORM");
   qunsetenv("WAYLAND_DISPLAY");

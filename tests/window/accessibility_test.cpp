@@ -62,7 +62,7 @@ TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
 TEST_F(AccessibilityTest, APuzzleIsPlayedByActionsAloneButNotBehindABox) {
   onModal = [this, answer = onModal](QWidget* box) {
     act(game.form.NewPuz, "Press");
-    choose("Show Solution");
+    choose("Set a Puzzle for computer to solve");
     answer(box);
   };
   playSolution([&](int index) { act(cell(index), "Press"); });

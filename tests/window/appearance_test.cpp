@@ -20,12 +20,11 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   for (int index = 1; index <= gridCells; ++index) {
     const QPoint start(lefts[columnOf(index) - 1], tops[rowOf(index) - 1]);
     const QRect all(start * scale, (start + QPoint(30, 30)) * scale - QPoint(1, 1));
-    const QRect text = all - 6 * border;
     const bool isCorner = rowOf(index) % 6 == 1 && columnOf(index) % 6 == 1;
     painter.fillRect(all, view.palette().dark());
     painter.fillRect(all.adjusted(0, 0, -line, -line), view.palette().light());
     painter.fillRect(all - border, isCorner ? QColor(0, 128, 0) : view.palette().button());
-    painter.drawImage(text, image, text);
+    painter.drawImage(all - 6 * border, image, all - 6 * border);
     if (roleOf(index) == CellRole::hole) painter.fillRect(all - border, Qt::black);
   }
   painter.end();
@@ -34,17 +33,15 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
 
 /// The greatest contrast between two pixels of the image.
 static double contrastIn(const QImage& image) {
-  double darkest = 1;
-  double brightest = 0;
+  std::vector<double> luminances;
   for (int i = 0; i < image.width() * image.height(); ++i) {
     const QColor colour = image.pixelColor(i % image.width(), i / image.width());
     const auto part = [](double share, double level) { return share * std::pow(level, 2.2); };
-    const double luminance =
-        part(0.2126, colour.redF()) + part(0.7152, colour.greenF()) + part(0.0722, colour.blueF());
-    darkest = std::min(darkest, luminance);
-    brightest = std::max(brightest, luminance);
+    luminances.push_back(part(0.2126, colour.redF()) + part(0.7152, colour.greenF()) +
+                         part(0.0722, colour.blueF()));
   }
-  return (brightest + 0.05) / (darkest + 0.05);
+  const auto [darkest, brightest] = std::minmax_element(luminances.begin(), luminances.end());
+  return (*brightest + 0.05) / (*darkest + 0.05);
 }
 
 TEST_F(AppearanceTest, TextIsReadableInLightAndDark) {
@@ -55,8 +52,7 @@ TEST_F(AppearanceTest, TextIsReadableInLightAndDark) {
   for (Cell& it : game.form.board.GridDisp) {
     if (it.Visible() && !it.caption().empty()) texts.push_back(&it);
   }
-  QPalette dark(QColor(53, 53, 53));
-  for (const QPalette& theme : {QApplication::palette(), dark}) {
+  for (const QPalette& theme : {QApplication::palette(), QPalette(QColor(53, 53, 53))}) {
     window.setPalette(theme);
     const QImage image = view.grab().toImage();
     for (const platform::Control* text : texts) {

@@ -9,12 +9,10 @@ static const std::map<QString, QString> serverFiles{
      "Listen SERVER\n<Policy default>\n<Limit All>\nAllow all\n</Limit>\n</Policy>\n"},
     {"files.conf",
      "FileDevice Yes\nServerRoot HERE\nRequestRoot HERE/spool\nCacheDir HERE/cache\n"
-     "StateDir HERE/state\nTempDir HERE\nErrorLog HERE/log\nAccessLog HERE/log\nPageLog "
-     "HERE/log\n"},
-    {"printer.ppd",
+     "StateDir HERE/state\nTempDir HERE\nErrorLog stderr\nAccessLog stderr\nPageLog stderr\n"},
+    {"ppd",
      "*PPD-Adobe: \"4.3\"\n*cupsFilter2: \"application/pdf application/pdf 0 gziptoany\"\n"
-     "*OpenUI *PageSize: PickOne\n*DefaultPageSize: Legal\n*PageSize Legal: \"\"\n*CloseUI: "
-     "*PageSize\n"
+     "*OpenUI *PageSize: PickOne\n*DefaultPageSize: Legal\n*PageSize Legal: \"\"\n"
      "*ImageableArea Legal: \"0 0 612 1008\"\n*PaperDimension Legal: \"612 1008\"\n"}};
 
 struct PrintTest : WindowTest {
@@ -40,8 +38,7 @@ struct PrintTest : WindowTest {
     }
     const auto path = [&](const QString& name) { return folder.filePath(name); };
     server.start("/usr/sbin/cupsd", {"-f", "-c", path("cupsd.conf"), "-s", path("files.conf")});
-    const QStringList printer{
-        "-p", "Test", "-E", "-v", "file://" + file, "-P", path("printer.ppd")};
+    const QStringList printer{"-p", "Test", "-E", "-v", "file:" + file, "-P", path("ppd")};
     return QTest::qWaitFor([&] { return output("/usr/sbin/lpadmin", printer) == ""; });
   }
   /// Has the page printed; where a file is asked for, names that, or cancels without a name.
@@ -89,8 +86,7 @@ TEST_F(PrintTest, ARealPrintServerGetsThePage) {
   print();
   EXPECT_EQ(messages.back(),
             "TESSORO: The page could not be sent to the printer. It can be printed again.");
-  server.terminate();
-  server.waitForFinished();
+  server.close();
   print();
   EXPECT_EQ(messages.back(), "No printer was found: save the page as PDF");
 }

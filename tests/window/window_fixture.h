@@ -33,7 +33,11 @@ struct WindowTest : testing::Test {
 
   WindowTest() {
     QTimer::connect(&watch, &QTimer::timeout, [this] {
-      if (QWidget* modal = QApplication::activeModalWidget()) onModal(modal);
+      QWidget* modal = QApplication::activeModalWidget();
+      if (modal == nullptr) return;
+      watch.stop();
+      onModal(modal);
+      watch.start();
     });
     watch.start(1);
     const auto commands = window.menuBar()->actions().first()->menu()->actions();
