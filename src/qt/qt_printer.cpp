@@ -116,7 +116,7 @@ void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
       return;
     }
   }
-  report_("The page could not be sent to the printer. It can be printed again.");
+  report_("The page could not be sent to the printer; it can be printed again.");
 }
 
 void QtPrinter::saveAsPdf() {
@@ -133,7 +133,7 @@ void QtPrinter::saveAsPdf() {
       file.commit()) {
     return;
   }
-  report_("The page could not be saved there. It can be printed again.");
+  report_("The page could not be saved there; it can be printed again.");
 }
 
 }  // namespace qt
