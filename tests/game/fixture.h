@@ -9,7 +9,6 @@
 
 #include "app/game.h"
 #include "board/captions.h"
-#include "rules/eval_line.h"
 
 namespace tessoro::test {
 
@@ -31,8 +30,7 @@ struct Requests final : platform::Printer, platform::HelpViewer {
 };
 
 /// A desktop without windows: the test answers its boxes and runs handlers while it yields.
-class FakeDesktop final : public platform::Desktop {
- public:
+struct FakeDesktop final : platform::Desktop {
   Answer messageBox(std::string_view text, Buttons buttons) override {
     messages.emplace_back(text);
     return buttons == Buttons::ok ? Answer::ok : answer;
@@ -44,8 +42,8 @@ class FakeDesktop final : public platform::Desktop {
   double secondsSinceMidnight() override { return clock += tick; }
   void showModal(platform::Form& form) override {
     form.Visible = true;
-    if (onModal) onModal(form);
-    EXPECT_FALSE(form.Visible()) << "nothing else would close the box";
+    form.unload();
+    EXPECT_FALSE(form.Visible());
   }
   platform::Printer& printer() override { return requests; }
   platform::HelpViewer& helpViewer() override { return requests; }
@@ -53,7 +51,6 @@ class FakeDesktop final : public platform::Desktop {
 
   std::vector<std::string> messages;
   Requests requests;
-  std::function<void(platform::Form&)> onModal;
   Answer answer = Answer::no;
   std::function<void()> onYield;
   int yields = 0;
@@ -62,8 +59,7 @@ class FakeDesktop final : public platform::Desktop {
 };
 
 /// Digits that the test writes down; when they are used up, real ones.
-class ScriptedDigits final : public Digits {
- public:
+struct ScriptedDigits final : Digits {
   explicit ScriptedDigits(platform::Desktop& desktop) : real_(desktop) {}
   int draw() override {
     if (script.empty()) return real_.draw();
@@ -73,27 +69,10 @@ class ScriptedDigits final : public Digits {
   }
 
   std::deque<int> script;
-
- private:
   ReseededDigits real_;
 };
 
-/// Whether every line of the stored solution has the digit it shows as its value.
-inline bool isTrueSolution(const PuzzleState& state) {
-  const auto holds = [&](int first, int step, int op) {
-    const auto number = [&](int k) { return readNumber(state.SolNumbers[first + k * step]); };
-    const int value = EvalLine(number(0), number(1), number(2), state.SolOperators[op],
-                               state.SolOperators[op + 1]);
-    return value == number(3) && value >= 1 && value <= 9;
-  };
-  for (int line = 0; line < 4; ++line) {
-    if (!holds(1 + 4 * line, 1, 1 + 2 * line) || !holds(1 + line, 4, 9 + 2 * line)) return false;
-  }
-  return true;
-}
-
-class GameTest : public testing::Test {
- protected:
+struct GameTest : testing::Test {
   FakeDesktop desktop;
   ScriptedDigits digits{desktop};
   Game game{desktop, digits};

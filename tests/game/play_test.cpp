@@ -1,7 +1,6 @@
 #include "fixture.h"
 
 namespace tessoro::test {
-namespace {
 
 using PlayTest = GameTest;
 using platform::MouseButton;
@@ -27,18 +26,14 @@ TEST_F(PlayTest, StartsOnAnEmptyBoardWithItsFourCorners) {
 }
 
 TEST_F(PlayTest, PressesStepDigitsAndOperators) {
-  press(17);
-  EXPECT_EQ(caption(17), "1");
-  press(17, MouseButton::right);
-  EXPECT_EQ(caption(17), "9");
-  press(17, MouseButton::middle);
-  EXPECT_EQ(caption(17), "1");
-  press(19, MouseButton::right);
-  EXPECT_EQ(caption(19), "9");
-  for (const auto* next : {"+", "-", "*", "+"}) {
-    press(18, next == std::string("-") ? MouseButton::right : MouseButton::left);
-    EXPECT_EQ(caption(18), next);
+  using enum MouseButton;
+  std::string shown;
+  for (const auto button : {left, right, middle, left, right, right, right}) {
+    press(17, button);
+    press(18, button);
+    shown += caption(17) + caption(18) + " ";
   }
+  EXPECT_EQ(shown, "1+ 9- 1* 2+ 1- 9* 8+ ");
   const std::vector<int> noMoves{1, 6, 7, 9, 21, 36, 43, 49, 50, 51};
   const std::string before = captionsOf(noMoves);
   for (const int index : noMoves) press(index);
@@ -88,5 +83,4 @@ TEST_F(PlayTest, Cell49ShowsTheLineOfTheOperatorMovedLast) {
   EXPECT_EQ(captionsOf({21, 49}), "??") << "row 3: 2 - 2 - 3";
 }
 
-}  // namespace
 }  // namespace tessoro::test

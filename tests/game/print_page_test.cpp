@@ -1,7 +1,6 @@
 #include "fixture.h"
 
 namespace tessoro::test {
-namespace {
 
 using PrintPageTest = GameTest;
 
@@ -42,5 +41,4 @@ TEST_F(PrintPageTest, ARecordedSlotStandsAsOnPaper) {
   }
 }
 
-}  // namespace
 }  // namespace tessoro::test

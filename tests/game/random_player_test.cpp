@@ -5,7 +5,6 @@
 #include "invariants.h"
 
 namespace tessoro::test {
-namespace {
 
 /// A player who presses anything with any button and chooses any command at any time, also while a
 /// search runs, under a clock that stands still or jumps. TESSORO_SEED plays the same again,
@@ -19,7 +18,6 @@ class RandomPlayer {
       event();
       if (Invariants::look(game_) != before) broken_ = "a running search is left alone";
     };
-    desktop_.onModal = [](platform::Form& box) { box.unload(); };
   }
 
   /// Plays until the program ends, or the events are used up, or a rule is broken, which it says.
@@ -92,5 +90,4 @@ TEST(RandomPlayerTest, NoRuleIsEverBroken) {
   }
 }
 
-}  // namespace
 }  // namespace tessoro::test

@@ -1,9 +1,9 @@
 #include <sstream>
 
 #include "fixture.h"
+#include "rules/eval_line.h"
 
 namespace tessoro::test {
-namespace {
 
 TEST(EvalLineTest, MultipliesFirstAndOtherwiseGoesFromTheLeft) {
   for (const char* line :
@@ -59,5 +59,4 @@ TEST_F(ResultsTest, ACodeRecomputesTheRowAndTheColumnItNames) {
   EXPECT_EQ(caption(49), "?");
 }
 
-}  // namespace
 }  // namespace tessoro::test

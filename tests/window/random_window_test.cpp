@@ -5,7 +5,6 @@
 #include "window_fixture.h"
 
 namespace tessoro::test {
-namespace {
 
 using RandomWindowTest = WindowTest;
 
@@ -46,5 +45,4 @@ TEST_F(RandomWindowTest, NoRuleIsEverBroken) {
   }
 }
 
-}  // namespace
 }  // namespace tessoro::test
