@@ -1,9 +1,11 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <string_view>
 
 #include "app/game.h"
 #include "board/captions.h"
@@ -45,6 +47,10 @@ class Invariants {
   std::array<std::string, 81> pageBefore_;
   std::int16_t numberBefore_ = 0;
 
+  static bool fits(char text, char look) {
+    if (look == '9') return text >= '1' && text <= '9';
+    return text == look || (look == '+' && (text == '-' || text == '*'));
+  }
   const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
 
   void remember() {
@@ -104,20 +110,36 @@ class Invariants {
     return brokenInSlot(heading);
   }
 
-  /// Reads the slot from the paper: its frame and every line's value.
+  /// Reads the slot from the paper: a puzzle beside its solution, whose every line is true. In the
+  /// rows of the board as they are to look, 9 is any digit and + any operator.
   std::string brokenInSlot(int heading) const {
+    static constexpr std::array<std::string_view, 15> slot{
+        "+---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  ",
+        "| 9 |   |   |   |   | = | 9 |          | 9 | + | 9 | + | 9 | = | 9 |  ",
+        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
+        "|   |///|   |///|   |///|   |          | + |///| + |///| + |///| + |  ",
+        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
+        "|   |   |   |   |   | = |   |          | 9 | + | 9 | + | 9 | = | 9 |  ",
+        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
+        "|   |///|   |///|   |///|   |          | + |///| + |///| + |///| + |  ",
+        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
+        "|   |   |   |   |   | = |   |          | 9 | + | 9 | + | 9 | = | 9 |  ",
+        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
+        "| = |///| = |///| = |///| = |          | = |///| = |///| = |///| = |  ",
+        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
+        "| 9 |   |   |   |   | = | 9 |          | 9 | + | 9 | + | 9 | = | 9 |  ",
+        "+---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  "};
     const auto& lines = game_.page.PrintLines;
+    for (int line = 1; line <= 15; ++line) {
+      const std::string& text = lines[heading + line];
+      if (!std::equal(text.begin(), text.end(), slot[line - 1].begin(), slot[line - 1].end(),
+                      fits)) {
+        return "the page is well formed: " + text;
+      }
+    }
     const auto at = [&](int grid, int row, int column) {
       return lines[heading + 2 * row][grid + 4 * column - 3];
     };
-    for (int line = 1; line <= 15; ++line) {
-      const std::string& text = lines[heading + line];
-      const char frame = line == 1 || line == 15 ? '+' : '|';
-      if (text.size() != 70 || text[0] != frame || text[28] != frame || text[39] != frame ||
-          text[67] != frame) {
-        return "the page is well formed";
-      }
-    }
     for (int line = 1; line <= 7; line += 2) {
       const auto holds = [&](auto cellAt) {
         const auto number = [&](int place) { return readNumber(std::string(1, cellAt(place))); };
