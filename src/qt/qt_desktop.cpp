@@ -62,8 +62,9 @@ platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons b
   box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                      Qt::WindowCloseButtonHint);
   // Room for the title, which is wider than the shortest texts.
-  auto* grid = static_cast<QGridLayout*>(box.layout());
-  grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
+    grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
+  }
   // Modal to the main window alone: help stays readable beside it.
   box.setWindowModality(Qt::WindowModal);
   box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
