@@ -3,7 +3,10 @@
 namespace platform {
 
 void CellPane::press(const MousePress& press) {
-  if (!takesInput()) return;
+  if (!takesInput()) {
+    if (Visible() && refused) refused();
+    return;
+  }
   if (press.button == MouseButton::left) armed_ = true;
   if (mouseDown) mouseDown(press);
   if (press.button == MouseButton::right && contextMenu && takesInput()) {

@@ -38,6 +38,8 @@ class CellPane final : public Control {
 
   /// Any mouse button went down.
   std::function<void(const MousePress&)> mouseDown;
+  /// A press came to nothing, since the cell is disabled.
+  std::function<void()> refused;
   /// The left button went down and came up again inside the cell.
   std::function<void()> click;
   /// The right button went down; the arguments are the shift state and the point.

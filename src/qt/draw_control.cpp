@@ -127,6 +127,17 @@ void drawControl(const DrawnControl& control, const Look& look, const Canvas& ca
   std::visit([&](const auto* it) { draw(*it, look, canvas); }, control);
 }
 
+/// A white line between two black ones, since one or the other stands out on every colour.
+void drawRing(const Canvas& canvas) {
+  const int line = lineWidth(canvas);
+  QRect rect = canvas.rect;
+  for (const platform::Colour colour :
+       {platform::rgb(0, 0, 0), platform::rgb(255, 255, 255), platform::rgb(0, 0, 0)}) {
+    drawEdges(canvas, rect, colour, colour, colour, colour);
+    rect.adjust(line, line, -line, -line);
+  }
+}
+
 Look lookOf(const DrawnControl& control) {
   return std::visit([](const auto* it) { return look(*it); }, control);
 }

@@ -31,10 +31,11 @@ struct Requests final : platform::Printer, platform::HelpViewer {
 
 /// A desktop without windows: the test answers its boxes and runs handlers while it yields.
 struct FakeDesktop final : platform::Desktop {
-  Answer messageBox(std::string_view text, Buttons buttons) override {
+  Answer showMessageBox(std::string_view text, Buttons buttons) override {
     messages.emplace_back(text);
     return buttons == Buttons::ok ? Answer::ok : answer;
   }
+  void announce(std::string_view sentence) override { said.emplace_back(sentence); }
   void yield() override {
     ++yields;
     if (onYield) onYield();
@@ -50,6 +51,7 @@ struct FakeDesktop final : platform::Desktop {
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
   std::vector<std::string> messages;
+  std::vector<std::string> said;
   Requests requests;
   Answer answer = Answer::no;
   std::function<void()> onYield;
