@@ -108,8 +108,7 @@ TEST(CellPaneTest, PressesBecomeEventsUnlessItIsDisabledOrHidden) {
       events.clear();
       for (const char it : actions) {
         if (it == 'L' || it == 'R') cell.press({.button = it == 'L' ? left : right});
-        if (it == 'l' || it == 'o') cell.release(left, it == 'l');
-        if (it == 'r') cell.release(right, true);
+        if (it == 'l' || it == 'r' || it == 'o') cell.release(it == 'r' ? right : left, it != 'o');
         if (it == '-' || it == '+') *property = it == '+';
       }
       return events;

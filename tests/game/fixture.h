@@ -86,7 +86,6 @@ struct GameTest : testing::Test {
     button.press({});
     button.release(platform::MouseButton::left, true);
   }
-  /// Presses the cell until it shows the text.
   void turnTo(int index, const std::string& text) {
     for (int presses = 0; caption(index) != text && presses < 10; ++presses) press(index);
   }

@@ -62,6 +62,17 @@ TEST_F(GameTest, APuzzleFromItsFirstMoveToTheNextPuzzle) {
   EXPECT_FALSE(form.board.NPict[4].Visible()) << "there is nothing to be right";
 }
 
+TEST_F(GameTest, EachMoveFromTheSolutionRecomputesItsLines) {
+  for (int index = 2; index < gridCells; ++index) {
+    if (!cell(index).enabled()) continue;
+    game.solutionDisplay.ShowSolution();
+    state.BoardLocked = false;
+    Invariants invariants(game);
+    press(index);
+    EXPECT_EQ(invariants.broken(index), "") << "after a press on " << index << '\n' << look();
+  }
+}
+
 TEST_F(GameTest, SetAPuzzleFromEnteringToLeaving) {
   press(3);
   form.SolveMx.choose();
@@ -105,6 +116,9 @@ TEST_F(GameTest, SetAPuzzleFromEnteringToLeaving) {
   EXPECT_EQ(look(), after);
   for (const int index : {1, 3, 49}) press(index);
   EXPECT_EQ(look(), after) << "the puzzle is over, and the corners are not pressable again";
+  form.SolveMx.choose();
+  form.SolveMx.choose();
+  EXPECT_TRUE(state.BoardLocked) << "also without a search";
 }
 
 TEST_F(GameTest, HelpAboutAndPrintAlsoWhileASearchRuns) {
@@ -151,9 +165,11 @@ TEST_F(GameTest, HelpAboutAndPrintAlsoWhileASearchRuns) {
                 slot("32767") + between + slot("2") + between + slot("3") + blank + "end\n");
 }
 
+using RandomPlayerTest = GameTest;
+
 /// Presses anything and chooses any command at any time, also while a search runs, under a clock
 /// that stands still or jumps. TESSORO_SEED plays the same again, TESSORO_EVENTS longer.
-TEST_F(GameTest, ARandomPlayerNeverBreaksARule) {
+TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
   const unsigned seed = fromEnvironment("TESSORO_SEED", std::random_device{}());
   std::cout << "TESSORO_SEED=" << seed << '\n';
   std::mt19937 random(seed);
