@@ -135,15 +135,14 @@ TEST(ClockTest, TellsTheLocalTimeOfDay) {
   setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1);
   tzset();
   platform::Clock clock;
-  const auto at = [&](std::chrono::milliseconds sinceMidnight) {
-    return clock.secondsSinceMidnight(std::chrono::sys_days{2026y / 3 / 29} + sinceMidnight);
-  };
-  EXPECT_EQ(at(1800250ms), 5400.25);
-  EXPECT_EQ(at(3599750ms), 7199.75);
-  EXPECT_EQ(at(3600000ms), 10800) << "clocks in Europe are set from 2 to 3";
-  EXPECT_EQ(at(3599750ms), 7199.75);
-  EXPECT_EQ(at(22h - 250ms), 86399.75);
-  EXPECT_EQ(at(22h), 0);
+  // In UTC and in local time, on the day when clocks in Europe are set from 2 to 3.
+  const std::vector<std::pair<std::chrono::milliseconds, double>> times{
+      {30min, 5400}, {1h - 250ms, 7199.75},   {1h, 10800},
+      {30min, 5400}, {22h - 250ms, 86399.75}, {22h, 0}};
+  for (const auto& [utc, local] : times) {
+    const platform::Clock::Time day = std::chrono::sys_days{2026y / 3 / 29};
+    EXPECT_EQ(clock.secondsSinceMidnight(day + utc), local);
+  }
 }
 
 }  // namespace tessoro::test

@@ -45,24 +45,13 @@ struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpV
   double tick = 1e-6;  ///< how far the clock goes on between two readings
 };
 
-/// Digits that the test writes down; when they are used up, real ones.
-struct ScriptedDigits final : Digits {
-  explicit ScriptedDigits(platform::Desktop& desktop) : real(desktop) {}
-  int draw() override {
-    if (script.empty()) return real.draw();
-    const int digit = script.front() - '0';
-    script.erase(0, 1);
-    return digit;
-  }
-  std::string script;
-  ReseededDigits real;
-};
-
-/// The game, started on a puzzle whose solution is known.
-struct GameTest : testing::Test {
+/// The game, started on a puzzle whose solution is known. It draws the digits of `script`, and when
+/// they are used up, real ones.
+struct GameTest : testing::Test, Digits {
   FakeDesktop desktop;
-  ScriptedDigits digits{desktop};
-  Game game{desktop, digits};
+  std::string script;
+  ReseededDigits real{desktop};
+  Game game{desktop, *this};
   PuzzleState& state = game.state;
   Form1& form = game.form;
   const std::string known = "771534952";
@@ -72,8 +61,14 @@ struct GameTest : testing::Test {
   const std::string knownRows =
       "\n_+#._+#._+#._*\n_5_+_3_-_4 = 4\n_-#._-#._+#._*\n_9_-_5_-_2 = 2\n =#. =#. =#. =\n";
 
+  int draw() override {
+    if (script.empty()) return real.draw();
+    const int digit = script.front() - '0';
+    script.erase(0, 1);
+    return digit;
+  }
   void SetUp() override {
-    digits.script = known;
+    script = known;
     game.startUp.Form_Load();
   }
   std::string look() const { return Invariants::look(game); }

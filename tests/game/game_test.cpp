@@ -43,14 +43,14 @@ TEST_F(GameTest, APuzzleFromItsFirstMoveToTheNextPuzzle) {
   press(33);
   EXPECT_EQ(look(), "Puzzle Number  1" + solved) << "the puzzle is over";
 
-  digits.script = known;
+  script = known;
   clickButton(form.NewPuz);
   EXPECT_EQ(look(), "Puzzle Number  2" + fresh);
   press(17);
   form.ShowSolx.choose();
   EXPECT_EQ(look(), "Puzzle Number  2" + solved);
 
-  digits.script = "9129315941199999";
+  script = "9129315941199999";
   form.StartSolx.choose();
   EXPECT_EQ(look(),
             "Puzzle Number  2; New Puzzle\nSet a Puzzle for computer to solve: :) g1 g3 g8\n"
@@ -94,16 +94,16 @@ TEST_F(GameTest, SetAPuzzleFromEnteringToLeaving) {
   state.TargetTL = state.TargetTR = state.TargetBL = 0;
   state.PuzzleNo = 32767;
   cell(3).caption = "5";
-  for (int row = 0; row < 501 * 3; ++row) digits.script += "911";
+  for (int row = 0; row < 501 * 3; ++row) script += "911";
   clickButton(form.Solveit);
   EXPECT_EQ(desktop.log.back(), "Cannot Solve This Time ! [OK]");
-  EXPECT_EQ(digits.script, "911911911");
+  EXPECT_EQ(script, "911911911");
   EXPECT_EQ(look(), "Puzzle Number  1; Click corners to set Puzzle; Solve Puzzle" + stating +
                         "targets 0 0 0 3\nR9_._._._. =R9" + emptyRows + "R9_. ._. . =R3");
   EXPECT_EQ(state.PuzzleNo, 32767);
 
   for (int k = 1; k <= 4; ++k) turnTo(CornerCells[k], std::string(1, "7138"[k - 1]));
-  digits.script = "9" + known.substr(1);  // the first is drawn for nothing
+  script = "9" + known.substr(1);  // the first is drawn for nothing
   clickButton(form.Solveit);
   EXPECT_EQ(look(), "Puzzle Number  1; Click corners to set Puzzle; (Solve Puzzle)" + stating +
                         "over; targets 7 1 3 8\nR7_-_7_+_1 =R1" + knownRows + "R3_* 5_- 7 =R8");
@@ -130,7 +130,7 @@ TEST_F(GameTest, HelpAboutAndPrintAlsoWhileASearchRuns) {
   };
   for (const int number : {1, 2, 32766}) {
     state.PuzzleNo = static_cast<std::int16_t>(number);
-    digits.script = known;
+    script = known;
     clickButton(form.NewPuz);
   }
   desktop.answer = platform::Desktop::Answer::yes;

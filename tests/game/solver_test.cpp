@@ -1,6 +1,5 @@
 #include <array>
 #include <cmath>
-#include <set>
 
 #include "fixture.h"
 #include "rules/eval_line.h"
@@ -27,9 +26,9 @@ TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
 }
 
 TEST_F(GameTest, ALineTakesTheFirstPairThatFits) {
-  SolutionAttempt attempt(state, digits);
+  SolutionAttempt attempt(state, *this);
   state.TargetTR = 8;
-  digits.script = "999421";
+  script = "999421";
   attempt.run();
   std::string taken = state.SolNumbers[1] + state.SolOperators[1] + state.SolOperators[2];
   for (std::size_t first = 1; first <= 9; ++first) {
@@ -46,16 +45,16 @@ TEST_F(GameTest, ALineTakesTheFirstPairThatFits) {
 
 /// The clock is the only seed, so that the outcome is the same in every run.
 TEST_F(GameTest, DigitsHaveTheirDistributionWhateverTheClockDoes) {
-  std::set<std::string> starts;
+  std::string start;
   for (const double tick : {1e-6, 0.0, 0.125, -3.5}) {
     desktop.clock = 30000;
     desktop.tick = tick;
-    ReseededDigits real(desktop);
+    ReseededDigits fresh(desktop);
     std::string drawn = "1";
     std::array<int, 100> pairs{};
     for (int i = 0; i < 324000; ++i) {
       const int last = drawn.back() - '0';
-      drawn += static_cast<char>('0' + real.draw());
+      drawn += static_cast<char>('0' + fresh.draw());
       ++pairs.at(10 * last + drawn.back() - '0');
     }
     constexpr std::array<int, 10> share{0, 1, 2, 2, 2, 2, 2, 2, 2, 3};  // of 18
@@ -63,9 +62,9 @@ TEST_F(GameTest, DigitsHaveTheirDistributionWhateverTheClockDoes) {
       const int expected = 1000 * share[pair / 10] * share[pair % 10];
       EXPECT_NEAR(pairs[pair], expected, 4 * std::sqrt(expected)) << pair << ", tick " << tick;
     }
-    starts.insert(drawn.substr(0, 40));
+    EXPECT_NE(drawn.substr(0, 40), start) << "another time of day gives other digits";
+    start = drawn.substr(0, 40);
   }
-  EXPECT_EQ(starts.size(), 4U) << "each time of day gives other digits";
 }
 
 }  // namespace tessoro::test
