@@ -40,9 +40,8 @@ void Results::UpdateLines(std::string_view code) {
 }
 
 void Results::UpdateCornerResult() {
-  const bool unknown = std::any_of(lineResultCells.begin(), lineResultCells.end(), [&](int cell) {
-    return board_.GridDisp[cell].caption() == "?";
-  });
+  const bool unknown = std::ranges::any_of(
+      lineResultCells, [&](int cell) { return board_.GridDisp[cell].caption() == "?"; });
   if (unknown) {
     board_.GridDisp[CornerCells[4]].caption = "?";
   } else {
