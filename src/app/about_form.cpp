@@ -21,7 +21,7 @@ AboutForm::AboutForm() {
   AboutOk.place = {4155, 600, 510, 375};
   AboutOk.caption = "OK";
   Label1.place = {30, 1110, 4725, 315};
-  Label1.caption = "Version 1.0";
+  Label1.caption = "Version " TESSORO_VERSION;
   Label1.backcolor = platform::palette[0];
   Label1.forecolor = platform::palette[15];
   // The button comes first, so it has the focus when the box opens.

@@ -36,10 +36,10 @@ Form1::Form1() {
   layOutButton(Solveit, "Solve Puzzle");
 
   Frame1.place = {60, 60, 4395, 4515};
-  for (int cell = 1; cell < boardCells; ++cell) Frame1.controls.push_back(&board.GridDisp[cell]);
+  for (int cell = 1; cell < boardCells; ++cell) Frame1.controls.emplace_back(&board.GridDisp[cell]);
   for (int k = 1; k <= 4; ++k) {
     board.NPict[k].picture = &smilingFace;
-    Frame1.controls.push_back(&board.NPict[k]);
+    Frame1.controls.emplace_back(&board.NPict[k]);
   }
   Frame1.controls.insert(Frame1.controls.end(), {&RightMess, &CompMess, &NewPuz, &Solveit});
   controls = {&board.GridDisp[0], &Frame1};

@@ -19,7 +19,9 @@ class Printer {
 
   virtual void printLine(std::string_view text) = 0;
 
-  /// Ends the document and releases it to the printer. Should that fail, the user is told.
+  /// Ends the document and releases it to the printer. Returns when the print system has accepted
+  /// it, or the user has been told that it has not or may not have; till then the main window takes
+  /// no input. The document is gone in each case.
   virtual void endDocument() = 0;
 };
 

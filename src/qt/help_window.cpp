@@ -115,9 +115,8 @@ void HelpWindow::keyPressEvent(QKeyEvent* event) {
 bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,
                             unsigned /*command*/, unsigned /*data*/) {
   const QString name = toQString(file);
-  const auto folder = std::find_if(folders_.begin(), folders_.end(), [&](const QString& candidate) {
-    return QDir(candidate).exists(name);
-  });
+  const auto folder = std::ranges::find_if(
+      folders_, [&](const QString& candidate) { return QDir(candidate).exists(name); });
   const QString path = QDir(folder == folders_.end() ? folders_.first() : *folder).filePath(name);
   if (!window_) {
     window_ = std::make_unique<HelpWindow>();

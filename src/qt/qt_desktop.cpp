@@ -4,8 +4,11 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
+#include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <iostream>
+#include <utility>
 
 #include "qt/announcer.h"
 #include "qt/control_widget.h"
@@ -18,13 +21,28 @@ namespace {
 
 constexpr int roomForTitle = 170;  // device-independent pixels
 
-/// The toolkit aborts where it finds no display, which would leave a core dump and three
-/// paragraphs of plug-in names instead of the one fact that matters.
-void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
-                     const QString& /*message*/) {
+/// What keeps the toolkit from opening windows, by what it says of it, in the order of what
+/// helps most.
+constexpr std::array<std::pair<const char*, const char*>, 3> obstacles{{
+    {"Could not find the Qt platform plugin \"wayland\"",
+     "cannot open a window in this Wayland session, because the package qt6-wayland is not "
+     "installed."},
+    {"could not connect to display",
+     "cannot open a window, because there is no display to open it on."},
+    {"Failed to create wl_display",
+     "cannot open a window, because there is no display to open it on."},
+}};
+
+/// The toolkit aborts where it can open no window, which would leave a core dump and paragraphs of
+/// plug-in names instead of the one fact that matters. What is not known here is told in its words.
+void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+  static QString said;
+  said += message.trimmed() + '\n';
   if (type != QtFatalMsg) return;
-  std::cerr << qPrintable(QCoreApplication::applicationName())
-            << ": cannot open a window, because there is no display to open it on.\n";
+  const auto* const found = std::ranges::find_if(
+      obstacles, [&](const auto& obstacle) { return said.contains(obstacle.first); });
+  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": "
+            << (found == obstacles.end() ? qPrintable(said) : found->second) << std::endl;
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -33,7 +51,7 @@ void reportNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
 std::unique_ptr<QApplication> QtDesktop::makeApplication(Arguments& arguments,
                                                          const Program& program) {
   QCoreApplication::setApplicationName(toQString(program.name));
-  const QtMessageHandler handler = qInstallMessageHandler(reportNoDisplay);
+  const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
   auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
   qInstallMessageHandler(handler);
   return application;

@@ -27,8 +27,8 @@ struct Program {
 /// The desktop as the toolkit gives it.
 class QtDesktop final : public platform::Desktop {
  public:
-  /// Connects to the display. Without one it says so in one line on standard error and ends the
-  /// program with exit status 1.
+  /// Connects to the display. Where that fails it says why on standard error and ends the program
+  /// with exit status 1.
   QtDesktop(char* programPath, Program program);
   ~QtDesktop() override;
 

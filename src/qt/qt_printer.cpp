@@ -9,8 +9,10 @@
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QSaveFile>
 #include <QTemporaryFile>
+#include <QTimer>
 #include <algorithm>
 
 #include "qt/convert.h"
@@ -31,8 +33,10 @@ constexpr double characterWidth = 0.6;
 /// whole numbers only.
 constexpr int drawnSize = 100;
 
-/// How long the print system may take to accept a job, in milliseconds.
+/// How long the print system may take to accept a job, and how long of that nobody notices, in
+/// milliseconds.
 constexpr int patience = 10000;
+constexpr int unnoticed = 200;
 
 QPageSize usualPaper() {
   const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
@@ -40,10 +44,21 @@ QPageSize usualPaper() {
 }
 
 QPrinterInfo printerToUse() {
-  QPrinterInfo printer = QPrinterInfo::defaultPrinter();
-  if (!printer.isNull()) return printer;
+  const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
+  if (!usual.isNull()) return usual;
   const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
-  return all.isEmpty() ? printer : all.first();
+  return all.isEmpty() ? usual : all.first();
+}
+
+/// Waits until the job has ended, the user cancels or the time is up. A modal box over the window
+/// keeps another page from being printed meanwhile, but the window goes on to be drawn.
+void waitFor(QProcess& job, QWidget* window) {
+  if (job.waitForFinished(unnoticed) || job.state() == QProcess::NotRunning) return;
+  QProgressDialog box("Sending the page to the printer ...", "Cancel", 0, 0, window);
+  box.setWindowModality(Qt::WindowModal);
+  QObject::connect(&job, &QProcess::finished, &box, &QDialog::accept);
+  QTimer::singleShot(patience - unnoticed, &box, &QDialog::reject);
+  box.exec();
 }
 
 }  // namespace
@@ -94,24 +109,34 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
 
 void QtPrinter::endDocument() {
   const QPrinterInfo printer = printerToUse();
-  if (printer.isNull()) {
-    saveAsPdf();
-  } else {
-    const QPageSize paper = printer.defaultPageSize();
-    sendToPrinter(printer.printerName(), paper.isValid() ? paper : usualPaper());
-  }
+  const QPageSize paper = printer.defaultPageSize();
+  const QByteArray pdf = sheet(paper.isValid() ? paper : usualPaper());
   lines_.clear();
+  if (printer.isNull()) {
+    saveAsPdf(pdf);
+  } else {
+    sendToPrinter(printer.printerName(), pdf);
+  }
 }
 
-void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
+void QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) {
   QTemporaryFile file(QDir::tempPath() + "/XXXXXX.pdf");
-  const QByteArray pdf = sheet(paper);
   // The print system's own command is used because the toolkit's printing does not tell whether
   // the job has been accepted.
   QProcess job;
   if (file.open() && file.write(pdf) == pdf.size() && file.flush()) {
     job.start("lp", {"-d", printer, "-t", documentName_, file.fileName()});
-    if (job.waitForFinished(patience) && job.exitStatus() == QProcess::NormalExit &&
+    waitFor(job, window_);
+    if (job.state() != QProcess::NotRunning) {
+      job.kill();
+      job.waitForFinished();
+      report_(
+          "It is not known whether the printer has got the page: look for it there before you "
+          "print "
+          "it again.");
+      return;
+    }
+    if (job.error() != QProcess::FailedToStart && job.exitStatus() == QProcess::NormalExit &&
         job.exitCode() == 0) {
       return;
     }
@@ -119,7 +144,7 @@ void QtPrinter::sendToPrinter(const QString& printer, const QPageSize& paper) {
   report_("The page could not be sent to the printer; it can be printed again.");
 }
 
-void QtPrinter::saveAsPdf() {
+void QtPrinter::saveAsPdf(const QByteArray& pdf) {
   QFileDialog dialog(window_, "No printer was found: save the page as PDF",
                      QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
@@ -127,7 +152,6 @@ void QtPrinter::saveAsPdf() {
   dialog.setWindowModality(Qt::WindowModal);
   if (dialog.exec() != QDialog::Accepted) return;
   QSaveFile file(dialog.selectedFiles().first());
-  const QByteArray pdf = sheet(usualPaper());
   // Flushed first, because committing does not notice that a disk is full.
   if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() &&
       file.commit()) {

@@ -17,18 +17,19 @@ namespace qt {
 /// Prints on the desktop's default printer, or, where there is none, into a PDF file that the user
 /// names.
 ///
-/// The sheet is made as a PDF in memory first. What can go wrong then is only the handing over,
-/// which either succeeds or leaves nothing behind.
+/// The sheet is made as a PDF in memory first, so that it is handed over whole or not at all.
 class QtPrinter final : public platform::Printer {
  public:
   using Report = std::function<void(std::string_view)>;
 
-  /// `documentName` is what the printer's queue shows; `report` tells the user of a failure in one
-  /// sentence.
+  /// `documentName` is what the printer's queue shows, and the name that a file is offered;
+  /// `report` tells the user, in one sentence, that the page was not printed or saved, or may not
+  /// have been.
   QtPrinter(QString documentName, Report report)
       : documentName_(std::move(documentName)), report_(std::move(report)) {}
 
-  /// The window over which the user is asked for a file name.
+  /// The window over which the user is asked for a file name, and which takes no input while a page
+  /// is on its way to the printer.
   void setParentWindow(QWidget* window) { window_ = window; }
 
   void setFontName(std::string_view name) override { font_.name = name; }
@@ -42,8 +43,8 @@ class QtPrinter final : public platform::Printer {
   QByteArray sheet(const QPageSize& paper) const;
 
  private:
-  void sendToPrinter(const QString& printer, const QPageSize& paper);
-  void saveAsPdf();
+  void sendToPrinter(const QString& printer, const QByteArray& pdf);
+  void saveAsPdf(const QByteArray& pdf);
 
   QString documentName_;
   Report report_;

@@ -48,9 +48,8 @@ void Results::UpdateLines(std::string_view code) {
 }
 
 void Results::UpdateCornerResult() {
-  const bool unknown = std::any_of(lineResultCells.begin(), lineResultCells.end(), [&](int cell) {
-    return board_.GridDisp[cell].caption() == noNumber;
-  });
+  const bool unknown = std::ranges::any_of(
+      lineResultCells, [&](int cell) { return board_.GridDisp[cell].caption() == noNumber; });
   if (unknown) {
     board_.GridDisp[CornerCells[4]].caption = std::string(noNumber);
   } else {

@@ -81,15 +81,33 @@ TEST_F(DesktopTest, ExitEndsTheProgram) {
   EXPECT_EQ(program.exitCode(), 0);
 }
 
-TEST(NoDisplayTest, OneLineSaysSoAndThereIsNoCoreDump) {
-  Process program("env", {"-u", "DISPLAY", TESSORO_PROGRAM});
-  ASSERT_TRUE(program.waitForFinished(10000));
-  EXPECT_EQ(program.readAllStandardError(),
-            "Tessoro: cannot open a window, because there is no display to open it on.\n");
-  EXPECT_EQ(program.exitCode(), 1);
+TEST(NoWindowTest, StandardErrorTellsWhyAndThereIsNoCoreDump) {
+  const QTemporaryDir folder;  // of a copy that has none of the toolkit's plug-ins
+  const QString copy = folder.filePath("tessoro");
+  ASSERT_TRUE(QFile::copy(TESSORO_PROGRAM, copy));
+  QFile plugins(folder.filePath("qt.conf"));
+  ASSERT_TRUE(plugins.open(QIODevice::WriteOnly) && plugins.write("[Paths]\nPlugins=none\n") > 0);
+  plugins.close();
+  for (const auto& [command, reason] : std::map<QStringList, QByteArray>{
+           {{TESSORO_PROGRAM}, "because there is no display to open it on.\n"},
+           {{"WAYLAND_DISPLAY=nowhere", copy},
+            "because the package qt6-wayland is not installed.\n"},
+           {{"DISPLAY=:0", copy}, "plugin \"xcb\""}}) {
+    Process program("env", QStringList{"-u", "DISPLAY"} + command);
+    ASSERT_TRUE(program.waitForFinished(10000));
+    const QByteArray said = program.readAllStandardError();
+    EXPECT_TRUE(said.startsWith("Tessoro: ") && said.contains(reason)) << said.toStdString();
+    EXPECT_EQ(said.count('\n') == 1, reason.endsWith('\n')) << said.toStdString();
+    EXPECT_EQ(program.exitCode(), 1);
+  }
 }
 
 }  // namespace tessoro::test
+
+/// The toolkit of Debian 13 loses 344 bytes of a client's ties to the desktop when the client ends.
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:QGenericUnixServices";
+}
 
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
@@ -99,6 +117,8 @@ int main(int argc, char* argv[]) {
   qputenv("DISPLAY", ":" + server.readLine().trimmed());
   qunsetenv("QT_QPA_PLATFORM");
   qunsetenv("WAYLAND_DISPLAY");
+  qunsetenv("XDG_SESSION_TYPE");
+  qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
   const QGuiApplication client(argc, argv);
   return RUN_ALL_TESTS();
 }

@@ -4,7 +4,8 @@ int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   // Never the printers of the machine: where no test has started a server, there is none.
-  qputenv("CUPS_SERVER", "127.0.0.1:8631");
+  const QTemporaryDir folder;
+  qputenv("CUPS_SERVER", folder.filePath("cups").toUtf8());
   qt::QtDesktop desktop(argv[0], tessoro::program());
   tessoro::test::theDesktop = &desktop;
   return RUN_ALL_TESTS();

@@ -1,0 +1,8 @@
+# Run before packaging. Without dpkg-shlibdeps, CPack would make a package that depends on no library.
+if(CPACK_GENERATOR STREQUAL "DEB")
+  find_program(dpkg_shlibdeps dpkg-shlibdeps)
+  find_program(file file)
+  if(NOT dpkg_shlibdeps OR NOT file)
+    message(FATAL_ERROR "Making the package takes the Debian packages dpkg-dev and file.")
+  endif()
+endif()
