@@ -43,7 +43,10 @@ std::string valueOf(const std::string& caption) {
 Narrator::Narrator(const Form1& form, const PuzzleState& state, const SolutionSearch& search,
                    platform::Desktop& desktop)
     : form_(form), state_(state), search_(search), desktop_(desktop) {
-  desktop_.boxOpens = [this] { announceOutcome(); };
+  // Boxes that come up while a search yields do not belong to it.
+  desktop_.boxOpens = [this] {
+    if (!search_.underWay()) announceOutcome();
+  };
 }
 
 void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
@@ -128,13 +131,7 @@ std::string Narrator::solutionShown() const {
 std::string Narrator::randomStart() const {
   std::string words = "Random start";
   for (int k = 1; k <= 4; ++k) {
-    words += ", " + cornerName(k);
-    if (form_.board.NPict[k].Visible()) {
-      words += " is correct";
-    } else {
-      words += valueOf(form_.board.GridDisp[CornerCells[k]].caption()) + ", target " +
-               form_.board.GridDisp[OuterCornerCells[k]].caption();
-    }
+    if (form_.board.NPict[k].Visible()) words += ", " + cornerName(k) + " is correct";
   }
   return words;
 }

@@ -31,7 +31,9 @@ class Narrator {
   void explainGreyedButton() const { desktop_.announce("Press a corner first"); }
 
   /// Announces the first puzzle.
-  void announceStart() const { desktop_.announce(corners()); }
+  void announceStart() const {
+    if (search_.SolveFound()) desktop_.announce(corners());
+  }
 
   // The outcomes of the commands.
   std::string newPuzzle() const;

@@ -1,6 +1,8 @@
 #include "qt/announcer.h"
 
 #include <QAccessibleWidget>
+#include <QEvent>
+#include <utility>
 
 namespace qt {
 namespace {
@@ -25,6 +27,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 Announcer::Announcer(QWidget& window) : window_(window) {
   QAccessible::installActivationObserver(this);
+  window.installEventFilter(this);
 }
 
 Announcer::~Announcer() {
@@ -39,23 +42,22 @@ void Announcer::announce(const QString& sentence) {
   sentence_ = sentence;
 }
 
-void Announcer::windowActivated() {
-  if (window_.isActiveWindow()) speakLater();
+void Announcer::speakLater() {
+  QMetaObject::invokeMethod(this, [this] { speak(); }, Qt::QueuedConnection);
 }
 
-void Announcer::speakLater() {
-  QMetaObject::invokeMethod(&window_, [this] { speak(); }, Qt::QueuedConnection);
+/// A sentence may have waited for the window to come up.
+bool Announcer::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ActivationChange && window_.isActiveWindow()) speakLater();
+  return QObject::eventFilter(watched, event);
 }
 
 void Announcer::accessibilityActiveChanged(bool /*active*/) {
-  windowActivated();
+  if (window_.isActiveWindow()) speakLater();
 }
 
-void Announcer::tellFocus() const {
-  QWidget* focused = window_.focusWidget();
-  if (sentence_.isEmpty() || focused == nullptr) return;
-  QAccessibleEvent event(focused, QAccessible::Focus);
-  QAccessible::updateAccessibility(&event);
+QString Announcer::takeSentence() {
+  return QAccessible::isActive() ? std::exchange(sentence_, {}) : QString();
 }
 
 void Announcer::introduce(const QString& text) {
@@ -64,8 +66,13 @@ void Announcer::introduce(const QString& text) {
 }
 
 void Announcer::speak() {
-  if (sentence_.isEmpty() || !QAccessible::isActive()) return;
   const QString sentence = takeSentence();
+  if (sentence.isEmpty()) return;
+  QWidget* focused = window_.focusWidget();
+  if (std::exchange(focusFirst_, false) && focused != nullptr && focused->hasFocus()) {
+    QAccessibleEvent event(focused, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+  }
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
   QAccessibleAnnouncementEvent event(&window_, sentence);
   QAccessible::updateAccessibility(&event);

@@ -1,19 +1,17 @@
 #pragma once
 
 #include <QAccessible>
+#include <QObject>
 #include <QString>
 #include <QWidget>
-#include <utility>
 
 namespace qt {
 
 /// Has a screen reader speak sentences, whatever has the focus.
-class Announcer final : public QAccessible::ActivationObserver {
+class Announcer final : public QObject, private QAccessible::ActivationObserver {
  public:
   explicit Announcer(QWidget& window);
-  ~Announcer();
-  Announcer(const Announcer&) = delete;
-  Announcer& operator=(const Announcer&) = delete;
+  ~Announcer() override;
 
   /// Speaks the sentence once what goes on has come to its end, so that it comes after what the
   /// screen reader says of that by itself. Until the window is shown and a screen reader listens,
@@ -22,22 +20,23 @@ class Announcer final : public QAccessible::ActivationObserver {
   /// Has the text spoken when the window is shown. A notification would make older screen readers
   /// name a dialog twice; newer ones would speak a description twice.
   void introduce(const QString& text);
-  /// Tells where the focus is if a sentence waits to be spoken: a menu has closed, which the
-  /// toolkit takes for no change, and the sentence is to come last.
-  void tellFocus() const;
-  /// The sentence that has not been spoken yet, for the caller to have it spoken.
-  QString takeSentence() { return std::exchange(sentence_, {}); }
+  /// Has the focus told before the next sentence: a menu has closed, which the toolkit takes for no
+  /// change.
+  void tellFocusFirst() { focusFirst_ = true; }
+  /// The sentence that a screen reader is to hear but has not yet, for the caller to have it
+  /// spoken.
+  QString takeSentence();
 
-  /// Speaks the sentence that has waited for the window to be shown.
-  void windowActivated();
-  void accessibilityActiveChanged(bool active) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void accessibilityActiveChanged(bool active) override;
   void speak();
   void speakLater();
 
   QWidget& window_;
-  QString sentence_;                 ///< not spoken yet
+  QString sentence_;  ///< not spoken yet
+  bool focusFirst_ = false;
   QWidget* notification_ = nullptr;  ///< made when first needed
 };
 

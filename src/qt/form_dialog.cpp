@@ -1,6 +1,5 @@
 #include "qt/form_dialog.h"
 
-#include <QEvent>
 #include <QVBoxLayout>
 
 #include "qt/convert.h"
@@ -47,11 +46,6 @@ FormDialog::~FormDialog() {
 void FormDialog::run() {
   form_.Visible = true;
   exec();
-}
-
-void FormDialog::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ActivationChange) announcer_.windowActivated();
-  QDialog::changeEvent(event);
 }
 
 void FormDialog::reject() {

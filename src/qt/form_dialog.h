@@ -19,9 +19,6 @@ class FormDialog final : public QDialog {
   /// The user has told the box to close, by its close command or the Escape key.
   void reject() override;
 
- protected:
-  void changeEvent(QEvent* event) override;
-
  private:
   platform::Form& form_;
   Announcer announcer_{*this};

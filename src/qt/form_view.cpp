@@ -65,11 +65,14 @@ FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFixedSize(pixelRect({0, 0, form.clientWidth, form.clientHeight}).size());
   addAll(form.controls, {});
+  QAccessible::installActivationObserver(this);
 }
 
 FormView::~FormView() {
   for (const Item& item : items_) onChange(item.control, nullptr);
+  QAccessible::removeActivationObserver(this);
   // While the view is still whole: widgets that end pass the focus on, and tell the view so.
+  items_.clear();
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
 
@@ -138,13 +141,15 @@ void FormView::refreshStale() {
     Item& item = items_[i];
     if (item.widget == nullptr) continue;
     if (!item.look.visible) hide(*item.widget);
-    tellClients(item);
+  }
+  for (Item& item : items_) {
+    if (item.widget != nullptr) tellClients(item);
   }
 }
 
 /// A control that has the focus leaves it to the one that is shown in its place.
 void FormView::hide(ControlWidget& widget) {
-  if (widget.hasFocus()) {
+  if (window()->focusWidget() == &widget) {
     for (const Item& item : items_) {
       if (item.widget == nullptr || item.widget == &widget || !item.look.visible) continue;
       if (item.widget->geometry() == widget.geometry()) item.widget->setFocus();
@@ -168,6 +173,13 @@ void FormView::tellClients(Item& item) {
   }
 }
 
+/// From now on clients are told of names that are not these any more.
+void FormView::accessibilityActiveChanged(bool /*active*/) {
+  for (Item& item : items_) {
+    if (item.widget != nullptr) item.name = item.widget->accessible().name();
+  }
+}
+
 void FormView::setCurrent(ControlWidget* widget) {
   if (current_ != nullptr) current_->setFocusPolicy(Qt::ClickFocus);
   current_ = widget;
@@ -175,6 +187,7 @@ void FormView::setCurrent(ControlWidget* widget) {
 }
 
 void FormView::focusMoved() {
+  if (items_.empty()) return;  // as the view ends
   auto* focused = dynamic_cast<ControlWidget*>(QApplication::focusWidget());
   if (focused != nullptr && focused->parentWidget() != this) focused = nullptr;
   if (focused != nullptr && focused->accessible().inGrid && focused != current_) {

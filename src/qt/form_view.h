@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAccessible>
 #include <QWidget>
 #include <vector>
 
@@ -21,7 +22,7 @@ QRect pixelRect(const platform::Place& place);
 /// rounded to a pixel of the screen once, alike for both cells that meet at it. What the mouse, the
 /// keys and assistive technology meet are widgets that lie at the controls' places and draw
 /// nothing.
-class FormView final : public QWidget {
+class FormView final : public QWidget, private QAccessible::ActivationObserver {
  public:
   FormView(platform::Form& form, QWidget* parent);
   ~FormView() override;
@@ -58,6 +59,7 @@ class FormView final : public QWidget {
     bool stale = false;               ///< the control may have changed since
   };
 
+  void accessibilityActiveChanged(bool active) override;
   void addAll(const platform::Controls& controls, const platform::Place& holder);
   /// Adds a control at its place in the client area.
   template <typename Control>

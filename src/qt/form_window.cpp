@@ -37,6 +37,15 @@ FormWindow::~FormWindow() {
 }
 
 void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
+  // Out of the menu the way leads back to the form, not to the menu bar.
+  connect(
+      &menu, &QMenu::aboutToHide, this,
+      [this] {
+        if (!menuBar()->hasFocus()) return;
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(menuBar(), &escape);
+      },
+      Qt::QueuedConnection);
   for (platform::MenuItem* entry : item.items) {
     if (entry->caption() == "-") {
       menu.addSeparator();
@@ -56,17 +65,17 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
         action, &QAction::triggered, this,
         [this, entry] {
           if (isBlocked(*this)) return;
+          announcer_.tellFocusFirst();
           entry->choose();
-          announcer_.tellFocus();
         },
         Qt::QueuedConnection);
   }
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_F10) {
+  if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
     openMenu();
-  } else if (event->key() == Qt::Key_Alt) {
+  } else if (event->key() == Qt::Key_Alt && (event->modifiers() & ~Qt::AltModifier) == 0) {
     qApp->installEventFilter(this);
   } else {
     event->ignore();
@@ -95,11 +104,6 @@ void FormWindow::openMenu() {
   const auto item = std::ranges::find_if(
       items, [](const QAction* it) { return it->isEnabled() && !it->isSeparator(); });
   if (item != items.end()) first->menu()->setActiveAction(*item);
-}
-
-void FormWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ActivationChange) announcer_.windowActivated();
-  QMainWindow::changeEvent(event);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

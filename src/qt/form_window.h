@@ -20,7 +20,6 @@ class FormWindow final : public QMainWindow {
   Announcer& announcer() { return announcer_; }
 
  protected:
-  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;

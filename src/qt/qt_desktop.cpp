@@ -1,6 +1,8 @@
 #include "qt/qt_desktop.h"
 
+#include <QAbstractButton>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
@@ -45,6 +47,14 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const
             << (found == obstacles.end() ? qPrintable(said) : found->second) << std::endl;
   std::_Exit(EXIT_FAILURE);
 }
+
+/// Keeps the repeats of a key that has brought a box up, and is still held down, from answering it.
+class IgnoredRepeats final : public QObject {
+ public:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    return event->type() == QEvent::KeyPress && dynamic_cast<QKeyEvent*>(event)->isAutoRepeat();
+  }
+};
 
 }  // namespace
 
@@ -97,6 +107,8 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
   if (!sentence.isEmpty() && label != nullptr) {
     label->setAccessibleName(sentence + ". " + label->text());
   }
+  IgnoredRepeats ignoredRepeats;
+  for (QAbstractButton* button : box.buttons()) button->installEventFilter(&ignoredRepeats);
   const int answer = box.exec();
   if (buttons == Buttons::ok) return Answer::ok;
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
