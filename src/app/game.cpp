@@ -47,7 +47,7 @@ void Game::connectEvents() {
   connect(form.StartSolx, [this] { newGame.StartSolx_Click(); }, &Narrator::randomStart);
   connect(form.ShowSolx, [this] { solutionDisplay.ShowSolx_Click(); }, &Narrator::solutionShown);
   connect(form.SolveMx, [this] { setAPuzzle.SolveMx_Click(); }, &Narrator::modeSwitched);
-  form.Solveit.refused = [this] { narrator.explainGreyedButton(); };
+  form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };
 
   form.Solveit.contextMenu = [this](auto... arguments) {
     setAPuzzle.Solveit_ContextMenu(arguments...);

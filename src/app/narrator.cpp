@@ -15,10 +15,6 @@ constexpr int plainResult = 21;
 
 constexpr std::string_view onlyCorners = "Only corners are set in this mode";
 
-bool isCorner(int cell) {
-  return std::find(CornerCells.begin() + 1, CornerCells.end(), cell) != CornerCells.end();
-}
-
 /// The line that ends in a result cell, in words; none for other cells.
 std::string lineOf(int cell) {
   switch (roleOf(cell)) {
@@ -35,7 +31,7 @@ std::string lineOf(int cell) {
 
 /// What a result cell shows, as the end of a clause.
 std::string valueOf(const std::string& caption) {
-  return caption == "?" ? " has no value" : " is " + caption;
+  return caption == noNumber ? " has no value" : " is " + caption;
 }
 
 }  // namespace
@@ -65,7 +61,7 @@ void Narrator::announceOutcome() {
 Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
   return [this, cell, before = heard(), wasOver = state_.BoardLocked] {
     const std::string shown = spoken(form_.board.GridDisp[cell].caption());
-    if (state_.SolveMode) return isCorner(cell) ? shown : std::string(onlyCorners);
+    if (state_.SolveMode) return cornerOf(cell) != 0 ? shown : std::string(onlyCorners);
     return wasOver ? "The puzzle is over" : shown + changesSince(before);
   };
 }

@@ -26,9 +26,10 @@ class Narrator {
 
   /// What a press on the cell will have changed since now, or why it has not.
   Sentence outcomeOfPress(int cell) const;
-  /// Announces why a press on the cell, which is disabled, does nothing; or one on `Solveit`.
+  /// Announces why a press on the disabled cell did nothing.
   void explainRefusal(int cell) const;
-  void explainGreyedButton() const { desktop_.announce("Press a corner first"); }
+  /// Announces why a press on the disabled button "Solve Puzzle" did nothing.
+  void explainDisabledSolveit() const { desktop_.announce("Press a corner first"); }
 
   /// Announces the first puzzle.
   void announceStart() const {

@@ -4,6 +4,9 @@
 #include <string_view>
 #include <utility>
 
+#include "board/captions.h"
+#include "board/operators.h"
+
 namespace tessoro {
 namespace {
 
@@ -15,11 +18,11 @@ constexpr std::array<std::string_view, 5> cornerNames{"", "top left", "top right
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> spokenSigns{
     {{"", "empty"},
-     {"?", "no value"},
+     {noNumber, "no value"},
      {"=", "equals"},
-     {"+", "plus"},
-     {"-", "minus"},
-     {"*", "times"}}};
+     {OpPlus, "plus"},
+     {OpMinus, "minus"},
+     {OpTimes, "times"}}};
 
 const Accessible::Action press{"Press", MouseButton::left};
 const Accessible::Action decrease{"Decrease", MouseButton::right};

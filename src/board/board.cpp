@@ -25,8 +25,8 @@ void Board::clear() {
 }
 
 void Board::clearBetweenCorners() {
-  for (int cell = CornerCells[1] + 1; cell < CornerCells[4]; ++cell) {
-    if (cell != CornerCells[2] && cell != CornerCells[3]) clearCell(cell);
+  for (int cell = 1; cell <= gridCells; ++cell) {
+    if (cornerOf(cell) == 0) clearCell(cell);
   }
 }
 

@@ -55,6 +55,13 @@ constexpr CellRole roleOf(int cell) {
 /// The corners k = 1..4 of the board, in the order in which all treat them: top left, top right,
 /// bottom left, bottom right. Element 0 of these tables is not used.
 constexpr std::array<int, 5> CornerCells{0, 1, 7, 43, 49};
+/// The corner k = 1..4 that a cell of the grid is; 0 if it is none.
+constexpr int cornerOf(int cell) {
+  for (int k = 1; k <= 4; ++k) {
+    if (CornerCells[k] == cell) return k;
+  }
+  return 0;
+}
 /// The cells beside them that show their targets.
 constexpr std::array<int, 5> OuterCornerCells{0, 50, 51, 52, 53};
 /// The elements of the solution's numbers that belong to them.

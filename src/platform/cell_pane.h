@@ -38,7 +38,7 @@ class CellPane final : public Control {
 
   /// Any mouse button went down.
   std::function<void(const MousePress&)> mouseDown;
-  /// A press came to nothing, since the cell is disabled.
+  /// A press on the cell, which is visible but disabled, did nothing.
   std::function<void()> refused;
   /// The left button went down and came up again inside the cell, which took input both times and
   /// met no other press in between.

@@ -20,15 +20,15 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
 
+  /// Called before a message box is shown.
+  std::function<void()> boxOpens;
+
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
   Answer messageBox(std::string_view text, Buttons buttons) {
     if (boxOpens) boxOpens();
     return showMessageBox(text, buttons);
   }
-  /// A message box is about to come up.
-  std::function<void()> boxOpens;
-
   /// Has a screen reader, if one listens, speak the sentence.
   virtual void announce(std::string_view sentence) = 0;
 
@@ -42,7 +42,9 @@ class Desktop {
   /// the form has been closed.
   virtual void showModal(Form& form) = 0;
 
+  /// The printer that pages are sent to.
   virtual Printer& printer() = 0;
+  /// The viewer of help files.
   virtual HelpViewer& helpViewer() = 0;
 
   /// Ends the program at once: no further handler runs, and the windows close with it.

@@ -35,8 +35,7 @@ class Form : public Observable {
   const Picture* icon = nullptr;
   std::vector<MenuItem*> menus;
   Controls controls;
-  /// Whether a modal form is open: true from its being shown until it is set to false, which closes
-  /// it.
+  /// True while a modal form is shown; setting it to false closes the form.
   Property<bool> Visible{*this, false};
   /// The user has told the window to close.
   std::function<void()> unload;

@@ -17,6 +17,7 @@ class Printer {
   virtual void setFontName(std::string_view name) = 0;
   virtual void setFontSize(double points) = 0;
 
+  /// Adds a line to the document.
   virtual void printLine(std::string_view text) = 0;
 
   /// Ends the document and releases it to the printer. Returns when the print system has accepted

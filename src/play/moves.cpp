@@ -39,10 +39,8 @@ void Moves::GridDisp_MouseDown(int Index, const platform::MousePress& press) {
 
 void Moves::inputCorner(int index, platform::MouseButton button) {
   Solveit_.enabled = true;
-  for (int k = 1; k <= 4; ++k) {
-    if (CornerCells[k] == index) {
-      state_.*cornerTargets[k] = stepDigit(board_.GridDisp[index], button);
-    }
+  if (const int k = cornerOf(index); k != 0) {
+    state_.*cornerTargets[k] = stepDigit(board_.GridDisp[index], button);
   }
 }
 

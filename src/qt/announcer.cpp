@@ -7,8 +7,8 @@
 namespace qt {
 namespace {
 
-/// Since this version the toolkit has an event for sentences. Its events of new names come with the
-/// name since then too, and screen readers read it out where it is that of the focus or the window.
+/// From this version on the toolkit's events of new names carry the name, and screen readers read
+/// it out where it is that of the focus or the window. Its event for sentences is as old.
 constexpr bool readsNewNames = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
 /// What screen readers read out whenever it is shown.
@@ -26,6 +26,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 }  // namespace
 
 Announcer::Announcer(QWidget& window) : window_(window) {
+  QAccessible::installFactory(makeInterface);
   QAccessible::installActivationObserver(this);
   window.installEventFilter(this);
 }
@@ -88,8 +89,8 @@ void Announcer::speak() {
 }
 
 void setTitle(QWidget& window, const QString& title) {
-  const auto ignore = [](QAccessibleEvent*) {};
   if (!readsNewNames) return window.setWindowTitle(title);
+  const auto ignore = [](QAccessibleEvent*) {};
   QAccessible::UpdateHandler handler = QAccessible::installUpdateHandler(ignore);
   window.setWindowTitle(title);
   QAccessible::installUpdateHandler(handler);
@@ -99,10 +100,6 @@ void tellNewName(QWidget& widget) {
   if (readsNewNames && widget.hasFocus()) return;
   QAccessibleEvent event(&widget, QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
-}
-
-void installNotifications() {
-  QAccessible::installFactory(makeInterface);
 }
 
 }  // namespace qt

@@ -13,12 +13,13 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   explicit Announcer(QWidget& window);
   ~Announcer() override;
 
-  /// Speaks the sentence once what goes on has come to its end, so that it comes after what the
-  /// screen reader says of that by itself. Until the window is shown and a screen reader listens,
-  /// the last sentence waits.
+  /// Speaks the sentence once the events at hand are done, so that it comes after what the screen
+  /// reader says of them by itself. The last sentence waits until the window is shown and a screen
+  /// reader listens.
   void announce(const QString& sentence);
-  /// Has the text spoken when the window is shown. A notification would make older screen readers
-  /// name a dialog twice; newer ones would speak a description twice.
+  /// Has the text spoken when the window is shown: as a sentence where screen readers would speak a
+  /// description twice, else as the description, since a sentence would have them name a dialog
+  /// twice.
   void introduce(const QString& text);
   /// Has the focus told before the next sentence: a menu has closed, which the toolkit takes for no
   /// change.
@@ -40,12 +41,11 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   QWidget* notification_ = nullptr;  ///< made when first needed
 };
 
-/// Sets the title of a window, or tells a new name of a widget, to clients of assistive technology
-/// unless a screen reader would read out what a sentence tells already.
+/// Sets the title of a window. Screen readers that would read it out are not told: a sentence says
+/// what has changed.
 void setTitle(QWidget& window, const QString& title);
+/// Tells clients of assistive technology the widget's new name, unless a screen reader would read
+/// it out besides the sentence.
 void tellNewName(QWidget& widget);
-
-/// Has the toolkit present notifications to assistive technology.
-void installNotifications();
 
 }  // namespace qt

@@ -5,7 +5,9 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <utility>
+#include <variant>
 
 #include "platform/cell_pane.h"
 #include "qt/convert.h"
@@ -105,6 +107,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place, FormView& view)
     : QWidget(&view), control_(control), place_(place), view_(view) {
+  QAccessible::installFactory(makeInterface);  // once is enough, and the toolkit sees to that
   // The view draws, also where this is shown or hidden.
   setUpdatesEnabled(false);
   setGeometry(pixelRect(place));
@@ -167,10 +170,6 @@ void ControlWidget::focusInEvent(QFocusEvent* /*event*/) {
 
 void ControlWidget::focusOutEvent(QFocusEvent* /*event*/) {
   view_.focusMoved();
-}
-
-void installAccessibleControls() {
-  QAccessible::installFactory(makeInterface);
 }
 
 }  // namespace qt

@@ -15,6 +15,7 @@ class FormView;
 /// assistive technology reads are the toolkit's work.
 class ControlWidget final : public QWidget {
  public:
+  /// The control has to outlive the widget.
   ControlWidget(DrawnControl control, const platform::Place& place, FormView& view);
 
   /// In the form's client area, twips.
@@ -42,8 +43,5 @@ class ControlWidget final : public QWidget {
   platform::Place place_;
   FormView& view_;
 };
-
-/// Has the toolkit present these widgets to assistive technology as the controls they stand for.
-void installAccessibleControls();
 
 }  // namespace qt

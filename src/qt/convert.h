@@ -16,10 +16,12 @@ namespace qt {
 /// Twips to a device-independent pixel.
 constexpr double twipsPerPixel = 15;
 
+/// The text, which is UTF-8.
 inline QString toQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+/// The colour; those of the theme are taken from the palette.
 QColor toQColor(platform::Colour colour, const QPalette& palette);
 
 /// The font at the given number of device pixels to a device-independent one. `logicalDpi` is what

@@ -32,13 +32,17 @@ struct Canvas {
   double logicalDpi = 96;
 };
 
+/// Draws the control as `look` says.
 void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);
 
 /// Draws the ring around a control that has the focus, just inside its edges.
 void drawRing(const Canvas& canvas);
 
+/// What the control shows now.
 Look lookOf(const DrawnControl& control);
+/// Whether a press can have an effect: false for disabled cells.
 bool takesInput(const DrawnControl& control);
+/// How the control presents itself; frames have no role.
 const platform::Accessible& accessibleOf(const DrawnControl& control);
 /// Has `listener` called when a property of the control changes.
 void onChange(const DrawnControl& control, std::function<void()> listener);

@@ -1,6 +1,7 @@
 #include "qt/form_dialog.h"
 
 #include <QVBoxLayout>
+#include <variant>
 
 #include "qt/convert.h"
 #include "qt/form_view.h"

@@ -41,18 +41,8 @@ bool isWhole(double scale) {
 
 /// The steps to the right and downwards that an arrow key goes; none for other keys.
 QPoint directionOf(int key) {
-  switch (key) {
-    case Qt::Key_Left:
-      return {-1, 0};
-    case Qt::Key_Right:
-      return {1, 0};
-    case Qt::Key_Up:
-      return {0, -1};
-    case Qt::Key_Down:
-      return {0, 1};
-    default:
-      return {};
-  }
+  return {(key == Qt::Key_Right) - (key == Qt::Key_Left),
+          (key == Qt::Key_Down) - (key == Qt::Key_Up)};
 }
 
 }  // namespace
@@ -71,7 +61,7 @@ FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
 FormView::~FormView() {
   for (const Item& item : items_) onChange(item.control, nullptr);
   QAccessible::removeActivationObserver(this);
-  // While the view is still whole: widgets that end pass the focus on, and tell the view so.
+  // Now, while the view is whole: a widget that goes passes the focus on, and tells the view.
   items_.clear();
   qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
@@ -119,19 +109,16 @@ void FormView::add(platform::CommandButton& button, const platform::Place& place
 /// Changes are gathered until the handler that makes them is done, so that what changes and changes
 /// back is not drawn at all.
 void FormView::markStale(std::size_t item) {
-  items_[item].stale = true;
-  if (anyStale_) return;
-  anyStale_ = true;
-  QMetaObject::invokeMethod(this, [this] { refreshStale(); }, Qt::QueuedConnection);
+  if (stale_.empty()) {
+    QMetaObject::invokeMethod(this, [this] { refreshStale(); }, Qt::QueuedConnection);
+  }
+  stale_.push_back(item);
 }
 
 void FormView::refreshStale() {
-  anyStale_ = false;
-  std::vector<std::size_t> changed;
-  for (std::size_t i = 0; i < items_.size(); ++i) {
+  const auto changed = std::exchange(stale_, {});
+  for (const std::size_t i : changed) {
     Item& item = items_[i];
-    if (!std::exchange(item.stale, false)) continue;
-    changed.push_back(i);
     const Look before = std::exchange(item.look, lookOf(item.control));
     if (item.look != before && (item.look.visible || before.visible)) updatePlace(item.place, i);
     if (item.widget != nullptr && item.look.visible) item.widget->show();
@@ -158,8 +145,8 @@ void FormView::hide(ControlWidget& widget) {
   widget.hide();
 }
 
-/// The toolkit tells clients of assistive technology what is shown or hidden or gets the focus, and
-/// this the rest.
+/// The toolkit tells clients of assistive technology what is shown, hidden or focused; names and
+/// states are told here.
 void FormView::tellClients(Item& item) {
   const bool wasEnabled = std::exchange(item.enabled, item.widget->takesInput());
   if (!QAccessible::isActive()) return;
@@ -240,7 +227,7 @@ bool FormView::moveFocus(const ControlWidget& from, int key) {
     nearest = item.widget;
     least = forward;
   }
-  // With a reason that the toolkit takes for one of the keyboard.
+  // For this reason the toolkit counts it as use of the keyboard.
   if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
   return true;
 }
@@ -287,11 +274,6 @@ void FormView::paintEvent(QPaintEvent* event) {
 
 void FormView::mousePressEvent(QMouseEvent* /*event*/) {
   setKeysUsed(false);
-}
-
-void FormView::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) update();
-  QWidget::changeEvent(event);
 }
 
 }  // namespace qt

@@ -24,6 +24,7 @@ QRect pixelRect(const platform::Place& place);
 /// nothing.
 class FormView final : public QWidget, private QAccessible::ActivationObserver {
  public:
+  /// The form has to outlive the view.
   FormView(platform::Form& form, QWidget* parent);
   ~FormView() override;
 
@@ -34,19 +35,18 @@ class FormView final : public QWidget, private QAccessible::ActivationObserver {
   void focusFirst();
 
   // For the widgets of the controls:
-  /// Gives the focus to the next control of the grid in the direction of an arrow key, if there is
-  /// one. Whether the key is an arrow.
+  /// Moves the focus to the next control of the grid in the direction of an arrow key, if there is
+  /// one; false if the key is no arrow.
   bool moveFocus(const ControlWidget& from, int key);
   /// The focus has come to a widget of the view, or has left one.
   void focusMoved();
-  /// The user works with the keys: the control with the focus has a ring. Or with the mouse: it has
-  /// none.
+  /// Whether the user works with the keys, which puts a ring around the control with the focus, or
+  /// with the mouse, which takes it away.
   void setKeysUsed(bool used);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
-  void changeEvent(QEvent* event) override;
 
  private:
   struct Item {
@@ -56,7 +56,6 @@ class FormView final : public QWidget, private QAccessible::ActivationObserver {
     ControlWidget* widget = nullptr;  ///< none for what can be neither read nor pressed
     bool enabled = true;              ///< as assistive technology was last told
     std::string name = {};            ///< the same
-    bool stale = false;               ///< the control may have changed since
   };
 
   void accessibilityActiveChanged(bool active) override;
@@ -75,9 +74,9 @@ class FormView final : public QWidget, private QAccessible::ActivationObserver {
   /// Has the place drawn again, where nothing in front of item `above` covers it.
   void updatePlace(const platform::Place& place, std::size_t above);
 
-  std::vector<Item> items_;  ///< from back to front
-  bool anyStale_ = false;
-  ControlWidget* current_ = nullptr;       ///< the one of the grid that Tab reaches
+  std::vector<Item> items_;           ///< from back to front
+  std::vector<std::size_t> stale_;    ///< the items that may have changed since the last refresh
+  ControlWidget* current_ = nullptr;  ///< the one of the grid that Tab reaches
   const ControlWidget* ringed_ = nullptr;  ///< the one with the ring of the focus, if any
   long drawnControls_ = 0;
 };

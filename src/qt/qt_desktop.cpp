@@ -12,8 +12,6 @@
 #include <iostream>
 #include <utility>
 
-#include "qt/announcer.h"
-#include "qt/control_widget.h"
 #include "qt/convert.h"
 #include "qt/form_dialog.h"
 #include "qt/form_window.h"
@@ -80,8 +78,6 @@ QtDesktop::QtDesktop(char* programPath, Program program)
   // The toolkit's file dialog would keep a file of settings in the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
-  installAccessibleControls();
-  installNotifications();
 }
 
 QtDesktop::~QtDesktop() = default;

@@ -132,8 +132,7 @@ void QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) {
       job.waitForFinished();
       report_(
           "It is not known whether the printer has got the page: look for it there before you "
-          "print "
-          "it again.");
+          "print it again.");
       return;
     }
     if (job.error() != QProcess::FailedToStart && job.exitStatus() == QProcess::NormalExit &&

@@ -57,21 +57,13 @@ struct DesktopTest : testing::Test {
   }
 };
 
-TEST_F(DesktopTest, PressesTurnANumberAndTheCornersTellWhatIsRight) {
-  std::vector<QImage> shown{pictureOf(3)};
-  for (int presses = 1; presses <= 10; ++presses) {
-    press(rectOf(placeOf(3)).center());
-    ASSERT_TRUE(eventually([&] { return pictureOf(3) != shown.back(); })) << presses;
-    shown.push_back(pictureOf(3));
-  }
-  EXPECT_TRUE(shown[10] == shown[1]);
-  EXPECT_EQ(std::count(shown.begin(), shown.end(), shown[1]), 2) << "after all nine digits";
+TEST_F(DesktopTest, PressesMoveAndExitEndsTheProgram) {
+  const QImage empty = pictureOf(3);
+  press(rectOf(placeOf(3)).center());
+  ASSERT_TRUE(eventually([&] { return pictureOf(3) != empty; }));
   EXPECT_EQ(colourOf(1), qRgb(0, 128, 0));
   for (const int corner : {7, 43, 49}) EXPECT_EQ(colourOf(corner), qRgb(0, 0, 0)) << corner;
   EXPECT_EQ(picture().pixel(rectOf(smileyPlace(1)).center()), qRgb(255, 255, 0));
-}
-
-TEST_F(DesktopTest, ExitEndsTheProgram) {
   press({20, 10});
   EXPECT_TRUE(eventually([&] {
     xdotool("key Up Return");  // chooses the last command as soon as the menu is open

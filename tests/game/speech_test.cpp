@@ -37,9 +37,12 @@ TEST_F(SpeechTest, EveryPressHasItsSentence) {
 
 TEST_F(SpeechTest, CommandsTellWhatThereIsToKnow) {
   script = known;
+  desktop.onYield = [this] { form.PrintX.choose(); };
   clickButton(form.NewPuz);
+  desktop.onYield = [] {};
   EXPECT_EQ(heard(),
-            Log{"Puzzle 2. Corners: top left 7, top right 1, bottom left 3, bottom right 8"});
+            (Log{"Print Puzzle No(s): 1 [Yes] [No]",
+                 "Puzzle 2. Corners: top left 7, top right 1, bottom left 3, bottom right 8"}));
   form.SolveMx.choose();
   clickButton(form.Solveit);
   press(3);

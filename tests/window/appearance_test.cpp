@@ -15,8 +15,6 @@ struct AppearanceTest : WindowTest {
 };
 
 TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
-  constexpr std::array<int, gridSide> lefts{46, 76, 106, 136, 164, 194, 224};
-  constexpr std::array<int, gridSide> tops{56, 86, 114, 144, 174, 204, 232};
   const double scale = view.devicePixelRatioF();
   const int line = static_cast<int>(scale);
   const QMargins border(line, line, line, line);
@@ -24,7 +22,7 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   QImage expected = image;
   QPainter painter(&expected);
   for (int index = 1; index <= gridCells; ++index) {
-    const QPoint start(lefts[columnOf(index) - 1], tops[rowOf(index) - 1]);
+    const QPoint start = middleOf(cell(index)) - QPoint(15, 15);
     const QRect all(start * scale, (start + QPoint(30, 30)) * scale - QPoint(1, 1));
     const bool isCorner = rowOf(index) % 6 == 1 && columnOf(index) % 6 == 1;
     painter.fillRect(all, view.palette().dark());

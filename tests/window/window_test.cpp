@@ -62,13 +62,6 @@ TEST_F(WindowTest, APressRedrawsOnlyWhatItChanges) {
   }
 }
 
-TEST_F(WindowTest, TheMenuFollowsTheMode) {
-  const QString mode = "Set a Puzzle for computer to solve";
-  choose(mode);
-  EXPECT_EQ(menu.at(mode)->text(), "End computer solution mode");
-  EXPECT_FALSE(menu.at("Start a Solution")->isEnabled());
-}
-
 TEST_F(WindowTest, ClosingItEndsTheProgram) {
   EXPECT_EXIT(window.close(), testing::ExitedWithCode(0), "");
 }
@@ -77,14 +70,16 @@ TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
   int shown = 0;
   onModal = [&](QWidget* box) {
     auto* text = box->findChild<QTextEdit*>();
-    EXPECT_EQ(box->windowTitle() + text->toPlainText(),
-              "About Tessoro\nTessoro, written by the Tessoro developers\ntessoro@example.org");
+    EXPECT_EQ(box->windowTitle(), "About Tessoro");
     EXPECT_EQ(box->size(), QSize(317, 97));
     EXPECT_LE(text->document()->size().height(), text->height()) << "nothing is cut";
     EXPECT_EQ(box->focusWidget(), box->findChild<QPushButton*>());
     ++shown;
     if (shown == 1) QTest::keyClick(box, Qt::Key_Return);
-    if (shown == 2) QTest::mousePress(text->viewport(), Qt::MiddleButton);
+    if (shown == 2) {
+      QTest::mousePress(box->windowHandle(), Qt::RightButton, {}, text->geometry().center());
+      EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "not the text's own menu";
+    }
     if (shown > 2) box->close();
   };
   for (int i = 0; i < 3; ++i) choose("About");
