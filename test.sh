@@ -46,7 +46,7 @@ check() {
 
 install_packages libgtest-dev libbenchmark-dev libxcb1-dev xvfb xdotool poppler-utils cups-daemon \
   "clang-$clang" "clang-format-$clang" "clang-tidy-$clang" \
-  dpkg-dev file lintian desktop-file-utils appstream devscripts
+  qt6-base-private-dev dpkg-dev file lintian desktop-file-utils appstream devscripts
 
 check 'formatting' formatting
 check 'release build and tests' build_and_test release

@@ -12,7 +12,10 @@ namespace {
 
 class NoWindows final : public platform::Desktop {
  public:
-  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override { return Answer::ok; }
+  Answer showMessageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
+    return Answer::ok;
+  }
+  void announce(std::string_view /*sentence*/) override {}
   void yield() override {}
   double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
   void showModal(platform::Form& /*form*/) override {}

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QWindow>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -134,9 +135,9 @@ struct Shown {
     const platform::Place place = tessoro::placeOf(cell);
     const QPointF at((place.left + 60 + 225) / 15.0, (place.top + 60 + 225) / 15.0);
     for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-      QMouseEvent event(type, at, window->view().mapToGlobal(at), Qt::LeftButton, Qt::LeftButton,
-                        {});
-      QApplication::sendEvent(&window->view(), &event);
+      QMouseEvent event(type, window->view().mapTo(window, at), window->view().mapToGlobal(at),
+                        Qt::LeftButton, Qt::LeftButton, {});
+      QApplication::sendEvent(window->windowHandle(), &event);
     }
   }
 };

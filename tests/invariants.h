@@ -1,9 +1,7 @@
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <cstdint>
 #include <cstdlib>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -16,143 +14,111 @@ namespace tessoro::test {
 /// What must hold of the game after every event, whatever the player does. It watches one game.
 class Invariants {
  public:
-  explicit Invariants(const Game& game) : game_(game) { remember(); }
+  explicit Invariants(const Game& game) : game_(game), before_(look(game)) {}
 
-  /// The rule that is broken since the last call; empty if none is. `pressedInPlay` says that the
-  /// one event since then was a press on the board while no puzzle was being stated.
-  std::string broken(bool pressedInPlay) {
-    std::string rule = brokenOnBoard();
-    if (rule.empty() && pressedInPlay && lockedBefore_ && look(game_) != lookBefore_) {
-      rule = "a press changed a locked board";
-    }
-    if (rule.empty()) rule = brokenOnPage();
-    remember();
-    return rule;
+  /// The rule that is broken since the last call; empty if none is. `pressed` is the cell on which
+  /// the one event since then was a press, 0 after other events.
+  std::string broken(int pressed) {
+    const bool inPlay = before_.find("End computer solution mode") == std::string::npos;
+    std::string rule = pressed != 0 && inPlay ? brokenByPress(pressed) : "";
+    if (game_.search.SolveFound() && rule.empty()) rule = brokenInSolution();
+    before_ = look(game_);
+    return before_.find('!') == std::string::npos ? rule : "cells look as they may";
   }
 
-  /// Everything the player sees of the board, and what presses on it do.
+  /// What the player sees and can do: the title, the label, the button (in parentheses while
+  /// disabled); the command of set-a-puzzle mode, what stands outside each corner, the disabled
+  /// commands, whether the puzzle is over, the targets if any are set; then the grid, each cell as
+  /// the mark of its look and its caption, '.' for none.
   static std::string look(const Game& game) {
-    std::string all = game.state.BoardLocked ? "locked" : "open";
-    if (game.state.SolveMode) all += " set";
-    for (const Cell& it : game.form.board.GridDisp) {
-      all += it.caption() + '/' + std::to_string(it.backcolor().value) + (it.Visible() ? '+' : '-');
+    const Form1& form = game.form;
+    std::string all = form.caption();
+    if (form.RightMess.Visible()) all += "; " + form.RightMess.caption();
+    if (form.CompMess.Visible()) all += "; " + form.CompMess.caption();
+    for (const auto* it : {&form.NewPuz, &form.Solveit}) {
+      if (it->Visible()) all += it->enabled() ? "; " + it->caption() : "; (" + it->caption() + ")";
+    }
+    all += "\n" + form.SolveMx.caption() + ":";
+    std::string targets;
+    for (int k = 1; k <= 4; ++k) {
+      const Cell& outer = form.board.GridDisp[OuterCornerCells[k]];
+      all += outer.Visible() ? std::string(" ") + mark(outer) + outer.caption() : " ";
+      all += (form.board.NPict[k].Visible() ? ":)" : "");
+      targets += " " + std::to_string(game.state.*cornerTargets[k]);
+    }
+    for (const auto* it : form.Gamex.items) all += it->enabled() ? "" : "; no " + it->caption();
+    if (game.state.BoardLocked) all += "; over";
+    if (targets != " -1 -1 -1 -1") all += "; targets" + targets;
+    for (int index = 1; index <= gridCells; ++index) {
+      const Cell& cell = form.board.GridDisp[index];
+      if (columnOf(index) == 1) all += '\n';
+      all += mark(cell) + (cell.caption().empty() ? "." : cell.caption());
     }
     return all;
   }
 
  private:
   const Game& game_;
-  bool lockedBefore_ = false;
-  std::string lookBefore_;
-  std::array<std::string, 81> pageBefore_;
-  std::int16_t numberBefore_ = 0;
+  std::string before_;
 
-  static bool fits(char text, char look) {
-    if (look == '9') return text >= '1' && text <= '9';
-    return text == look || (look == '+' && (text == '-' || text == '*'));
+  /// Plain, a hole, or green, red or black with white text; the second mark is an enabled cell's.
+  static char mark(const Cell& cell) {
+    static const std::map<std::pair<unsigned, unsigned>, std::string_view> marks{
+        {{0x80000001, 0x80000000}, " _"},
+        {{0, 0x80000000}, "#%"},
+        {{0x008000, 0xffffff}, "gG"},
+        {{0x000080, 0xffffff}, "rR"},
+        {{0, 0xffffff}, "bB"}};
+    const auto found = marks.find({cell.backcolor().value, cell.forecolor().value});
+    return found == marks.end() || !cell.Visible() ? '!' : found->second[cell.enabled() ? 1 : 0];
   }
   const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
+  const std::string& caption(int index) const { return cell(index).caption(); }
 
-  void remember() {
-    lockedBefore_ = game_.state.BoardLocked && !game_.state.SolveMode;
-    lookBefore_ = look(game_);
-    pageBefore_ = game_.page.PrintLines;
-    numberBefore_ = game_.state.PuzzleNo;
+  /// The result of the line that has the texts `at` 0 to 4.
+  static std::string resultOf(const auto& at) {
+    const int value =
+        EvalLine(readNumber(at(0)), readNumber(at(2)), readNumber(at(4)), at(1), at(3));
+    return value >= 1 && value <= 9 ? std::to_string(value) : "?";
   }
 
-  std::string brokenOnBoard() const {
-    const Form1& form = game_.form;
+  std::string brokenInSolution() const {
     const PuzzleState& state = game_.state;
-    if (form.NewPuz.Visible() == form.Solveit.Visible()) return "one button below the board";
-    if (form.RightMess.Visible() && form.CompMess.Visible()) return "one label above the board";
-    for (int index = 1; index <= gridCells; ++index) {
-      const CellRole role = roleOf(index);
-      const bool isOperator = role == CellRole::rowOperator || role == CellRole::columnOperator;
-      const std::string allowed = role == CellRole::equals ? "="
-                                  : role == CellRole::hole ? ""
-                                  : isOperator             ? "+-*"
-                                                           : "?123456789";
-      const std::string& caption = cell(index).caption();
-      if (caption.size() > 1 || allowed.find(caption) == std::string::npos ||
-          (role == CellRole::equals && caption.empty())) {
-        return "cells show what their role allows";
-      }
-    }
-    const bool inPlay = !state.SolveMode && !state.BoardLocked && game_.search.SolveFound();
-    if (inPlay && cell(1).caption() != trimmed(state.SolNumbers[1]))
-      return "cell 1 is the puzzle's";
     for (int k = 1; k <= 4; ++k) {
-      if (form.board.NPict[k].Visible() && cell(CornerCells[k]).backcolor() != ColGreen) {
-        return "faces smile over green corners";
-      }
-      if (cell(CornerCells[k]).enabled() != state.SolveMode)
-        return "corners are for stating puzzles";
-    }
-    return {};
-  }
-
-  std::string brokenOnPage() const {
-    const auto& lines = game_.page.PrintLines;
-    const std::int16_t number = game_.state.PuzzleNo;
-    if (lines == pageBefore_) return number == numberBefore_ ? "" : "numbers count successes";
-    if (number != (numberBefore_ == 32767 ? 1 : numberBefore_ + 1))
-      return "numbers count successes";
-    const int heading = PrintPage::headings[(number - 1) % 3];
-    const std::string no = " " + std::to_string(number);
-    if (lines[heading] != "Puzzle No" + no + std::string(28, ' ') + "Solution to Puzzle No" + no) {
-      return "a puzzle's slot is headed by its number";
-    }
-    for (int line = 1; line <= 55; ++line) {
-      if ((line < heading || line > heading + 15) && lines[line] != pageBefore_[line]) {
-        return "a puzzle is written into its slot alone";
-      }
-    }
-    return brokenInSlot(heading);
-  }
-
-  /// Reads the slot from the paper: a puzzle beside its solution, whose every line is true. In the
-  /// rows of the board as they are to look, 9 is any digit and + any operator.
-  std::string brokenInSlot(int heading) const {
-    static constexpr std::array<std::string_view, 15> slot{
-        "+---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  ",
-        "| 9 |   |   |   |   | = | 9 |          | 9 | + | 9 | + | 9 | = | 9 |  ",
-        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
-        "|   |///|   |///|   |///|   |          | + |///| + |///| + |///| + |  ",
-        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
-        "|   |   |   |   |   | = |   |          | 9 | + | 9 | + | 9 | = | 9 |  ",
-        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
-        "|   |///|   |///|   |///|   |          | + |///| + |///| + |///| + |  ",
-        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
-        "|   |   |   |   |   | = |   |          | 9 | + | 9 | + | 9 | = | 9 |  ",
-        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
-        "| = |///| = |///| = |///| = |          | = |///| = |///| = |///| = |  ",
-        "|---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  ",
-        "| 9 |   |   |   |   | = | 9 |          | 9 | + | 9 | + | 9 | = | 9 |  ",
-        "+---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  "};
-    const auto& lines = game_.page.PrintLines;
-    for (int line = 1; line <= 15; ++line) {
-      const std::string& text = lines[heading + line];
-      if (!std::equal(text.begin(), text.end(), slot[line - 1].begin(), slot[line - 1].end(),
-                      fits)) {
-        return "the page is well formed: " + text;
-      }
-    }
-    const auto at = [&](int grid, int row, int column) {
-      return lines[heading + 2 * row][grid + 4 * column - 3];
-    };
-    for (int line = 1; line <= 7; line += 2) {
-      const auto holds = [&](auto cellAt) {
-        const auto number = [&](int place) { return readNumber(std::string(1, cellAt(place))); };
-        const int value = EvalLine(number(1), number(3), number(5), std::string(1, cellAt(2)),
-                                   std::string(1, cellAt(4)));
-        return value == number(7) && value >= 1 && value <= 9 && cellAt(6) == '=';
+      const int target = state.*cornerTargets[k];
+      const auto holds = [&](int first, int step, int op) {
+        const auto at = [&](int place) {
+          return place % 2 == 0 ? state.SolNumbers[first + place / 2 * step]
+                                : state.SolOperators[op + place / 2];
+        };
+        return at(6) == " " + resultOf(at);
       };
-      if (!holds([&](int place) { return at(40, line, place); }) ||
-          !holds([&](int place) { return at(40, place, line); })) {
-        return "every printed solution is true";
+      if (!holds(4 * k - 3, 1, 2 * k - 1) || !holds(k, 4, 2 * k + 7) ||
+          (target > 0 && caption(CornerCells[k]) != std::to_string(target))) {
+        return "every solution is true and has the corners asked for";
       }
     }
     return {};
+  }
+
+  std::string brokenByPress(int pressed) const {
+    if (before_.find("; over") != std::string::npos || !cell(pressed).enabled()) {
+      return look(game_) == before_ ? "" : "a press changes only what takes it";
+    }
+    const auto result = [&](int first, int step) {
+      return resultOf([&](int place) { return caption(first + place * step); });
+    };
+    std::string shown;
+    std::string values;
+    for (const int line : {1, 3, 5}) {
+      shown += caption(7 * line) + caption(42 + line);
+      values += result(7 * line - 6, 1) + result(line, 7);
+    }
+    const bool inColumn7 = pressed == 14 || pressed == 28;
+    const bool unknown = pressed < 43 && shown.find('?') != std::string::npos;
+    shown += caption(49);
+    values += inColumn7 ? result(7, 7) : unknown ? "?" : result(43, 1);
+    return shown == values ? "" : "lines show " + values + ", cell 49 that of the operator pressed";
   }
 };
 

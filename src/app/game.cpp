@@ -15,7 +15,8 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
       newGame(state, form.board, results, cornerCheck, search, setAPuzzle, digits, form.RightMess),
       printCommand(page, desktop),
       shell(form, desktop),
-      startUp(form.board, page, search, form.CompMess, form.Solveit, desktop) {
+      startUp(form.board, page, search, form.CompMess, form.Solveit, desktop),
+      narrator(form, state, search, desktop) {
   connectEvents();
   describeForScreenReaders(form);
 }
@@ -28,16 +29,25 @@ void Game::connectEvents() {
       if (!search.underWay()) handler(arguments...);
     };
   };
-
-  for (int cell = 0; cell < boardCells; ++cell) {
-    form.board.GridDisp[cell].mouseDown = unlessSearching(
-        [this, cell](const platform::MousePress& press) { moves.GridDisp_MouseDown(cell, press); });
+  for (int index = 0; index < boardCells; ++index) {
+    Cell& cell = form.board.GridDisp[index];
+    cell.mouseDown = unlessSearching([this, index](const platform::MousePress& press) {
+      narrator.narrate([&] { moves.GridDisp_MouseDown(index, press); },
+                       narrator.outcomeOfPress(index));
+    });
+    cell.refused = [this, index] { narrator.explainRefusal(index); };
   }
-  form.NewPuz.click = unlessSearching([this] { newGame.NewPuz_Click(); });
-  form.Solveit.click = unlessSearching([this] { setAPuzzle.Solveit_Click(); });
-  form.StartSolx.click = unlessSearching([this] { newGame.StartSolx_Click(); });
-  form.ShowSolx.click = unlessSearching([this] { solutionDisplay.ShowSolx_Click(); });
-  form.SolveMx.click = unlessSearching([this] { setAPuzzle.SolveMx_Click(); });
+  const auto connect = [this, unlessSearching](auto& control, auto handler, auto outcome) {
+    control.click = unlessSearching([this, handler, outcome] {
+      narrator.narrate(handler, [this, outcome] { return (narrator.*outcome)(); });
+    });
+  };
+  connect(form.NewPuz, [this] { newGame.NewPuz_Click(); }, &Narrator::newPuzzle);
+  connect(form.Solveit, [this] { setAPuzzle.Solveit_Click(); }, &Narrator::solvedPuzzle);
+  connect(form.StartSolx, [this] { newGame.StartSolx_Click(); }, &Narrator::randomStart);
+  connect(form.ShowSolx, [this] { solutionDisplay.ShowSolx_Click(); }, &Narrator::solutionShown);
+  connect(form.SolveMx, [this] { setAPuzzle.SolveMx_Click(); }, &Narrator::modeSwitched);
+  form.Solveit.refused = [this] { narrator.explainGreyedButton(); };
 
   form.Solveit.contextMenu = [this](auto... arguments) {
     setAPuzzle.Solveit_ContextMenu(arguments...);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/form1.h"
+#include "app/narrator.h"
 #include "app/shell.h"
 #include "board/puzzle_state.h"
 #include "board/start_up.h"
@@ -38,6 +39,7 @@ class Game {
   PrintCommand printCommand;
   Shell shell;
   StartUp startUp;
+  Narrator narrator;
 
  private:
   void connectEvents();

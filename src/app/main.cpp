@@ -8,5 +8,6 @@ int main(int /*argc*/, char* argv[]) {
   tessoro::ReseededDigits digits(desktop);
   tessoro::Game game(desktop, digits);
   game.startUp.Form_Load();
+  game.narrator.announceStart();
   return desktop.run(game.form);
 }

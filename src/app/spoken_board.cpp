@@ -1,7 +1,6 @@
 #include "app/spoken_board.h"
 
 #include <array>
-#include <string>
 #include <string_view>
 #include <utility>
 
@@ -11,9 +10,8 @@ namespace {
 using platform::Accessible;
 using platform::MouseButton;
 
-/// The corners k = 1..4; element 0 is not used.
-constexpr std::array<std::string_view, 5> cornerNames{"", "Top left", "Top right", "Bottom left",
-                                                      "Bottom right"};
+constexpr std::array<std::string_view, 5> cornerNames{"", "top left", "top right", "bottom left",
+                                                      "bottom right"};
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> spokenSigns{
     {{"", "empty"},
@@ -23,6 +21,62 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 6> spokenSig
      {"-", "minus"},
      {"*", "times"}}};
 
+const Accessible::Action press{"Press", MouseButton::left};
+const Accessible::Action decrease{"Decrease", MouseButton::right};
+
+/// What a cell shows, then its place.
+std::string describe(int index, const Cell& cell) {
+  return spoken(cell.caption()) + ", row " + std::to_string(rowOf(index)) + " column " +
+         std::to_string(columnOf(index));
+}
+
+Accessible describedCell(int index, const Cell& cell) {
+  const auto name = [index, &cell] { return describe(index, cell); };
+  switch (roleOf(index)) {
+    case CellRole::number:
+      return {Accessible::Role::button, name, {press, decrease}, true};
+    case CellRole::rowOperator:
+    case CellRole::columnOperator:
+      return {Accessible::Role::button, name, {press}, true};
+    case CellRole::equals:
+    case CellRole::rowResult:
+    case CellRole::columnResult:
+    case CellRole::grandResult:
+      return {Accessible::Role::label, name, {}, true};
+    case CellRole::hole:
+    case CellRole::outerCorner:
+    case CellRole::spare:
+      break;
+  }
+  return {};
+}
+
+void describeCorner(int k, Board& board) {
+  Cell& cell = board.GridDisp[CornerCells[k]];
+  const Cell& target = board.GridDisp[OuterCornerCells[k]];
+  const platform::PictureBox& smiley = board.NPict[k];
+  // Once play has begun, either its target or a smiling face is shown beside a corner.
+  const auto name = [k, &cell, &target, &smiley] {
+    std::string words = describe(CornerCells[k], cell);
+    if (target.Visible() || smiley.Visible()) words += ", target " + target.caption();
+    return smiley.Visible() ? words + ", correct" : words;
+  };
+  // The user sets the corners' numbers when stating a puzzle.
+  cell.accessible = {Accessible::Role::button, name, {press, decrease}, true};
+  board.GridDisp[OuterCornerCells[k]].accessible = {
+      Accessible::Role::label,
+      [k, &target] { return cornerName(k) + " target " + target.caption(); },
+      {}};
+  board.NPict[k].accessible = {
+      Accessible::Role::image, [k] { return cornerName(k) + " correct"; }, {}};
+}
+
+void describeButton(Cell& button) {
+  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press}};
+}
+
+}  // namespace
+
 std::string spoken(const std::string& caption) {
   for (const auto& [sign, words] : spokenSigns) {
     if (caption == sign) return std::string(words);
@@ -30,56 +84,14 @@ std::string spoken(const std::string& caption) {
   return caption;
 }
 
-Accessible::Role roleFor(CellRole role) {
-  switch (role) {
-    case CellRole::number:
-    case CellRole::rowOperator:
-    case CellRole::columnOperator:
-      return Accessible::Role::button;
-    case CellRole::equals:
-    case CellRole::rowResult:
-    case CellRole::columnResult:
-    case CellRole::grandResult:
-      return Accessible::Role::label;
-    case CellRole::hole:
-    case CellRole::outerCorner:
-    case CellRole::spare:
-      break;
-  }
-  return Accessible::Role::none;
+std::string cornerName(int k) {
+  return std::string(cornerNames[k]);
 }
-
-void describeCell(const int index, Cell& cell) {
-  const Accessible::Role role = roleFor(roleOf(index));
-  if (role == Accessible::Role::none) return;
-  const std::string place =
-      "Row " + std::to_string(rowOf(index)) + " column " + std::to_string(columnOf(index)) + ", ";
-  cell.accessible = {role,
-                     [place, &cell] { return place + spoken(cell.caption()); },
-                     {{"Press", MouseButton::left}, {"Decrease", MouseButton::right}}};
-}
-
-void describeCorner(int k, Board& board) {
-  const std::string name(cornerNames[k]);
-  // The user sets the corners' numbers when stating a puzzle.
-  board.GridDisp[CornerCells[k]].accessible.role = Accessible::Role::button;
-  Cell& outer = board.GridDisp[OuterCornerCells[k]];
-  outer.accessible = {
-      Accessible::Role::label, [name, &outer] { return name + " target, " + outer.caption(); }, {}};
-  board.NPict[k].accessible = {
-      Accessible::Role::image, [name] { return name + " corner right"; }, {}};
-}
-
-void describeButton(Cell& button) {
-  button.accessible = {Accessible::Role::button,
-                       [&button] { return button.caption(); },
-                       {{"Press", MouseButton::left}}};
-}
-
-}  // namespace
 
 void describeForScreenReaders(Form1& form) {
-  for (int cell = 0; cell < boardCells; ++cell) describeCell(cell, form.board.GridDisp[cell]);
+  for (int cell = 0; cell < boardCells; ++cell) {
+    form.board.GridDisp[cell].accessible = describedCell(cell, form.board.GridDisp[cell]);
+  }
   for (int k = 1; k <= 4; ++k) describeCorner(k, form.board);
   describeButton(form.NewPuz);
   describeButton(form.Solveit);

@@ -7,19 +7,14 @@
 
 namespace tessoro {
 
-namespace {
-
-bool isDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-}  // namespace
-
 std::int16_t readNumber(std::string_view caption) {
   std::string_view text = caption;
   while (text.starts_with(' ')) text.remove_prefix(1);
   // Nearly every text is one digit, and a search reads a great many.
-  if (text.size() == 1) return static_cast<std::int16_t>(isDigit(text[0]) ? text[0] - '0' : 0);
+  if (text.size() == 1) {
+    const int digit = text[0] - '0';
+    return static_cast<std::int16_t>(isDigit(digit) ? digit : 0);
+  }
   // Letters are cut off first, since the library would take "inf" for a number.
   std::string_view decimal = text.substr(0, text.find_first_not_of("+-.0123456789"));
   if (decimal.starts_with('+') && !decimal.starts_with("+-")) decimal.remove_prefix(1);
@@ -35,7 +30,7 @@ std::string numberText(int number) {
 }
 
 std::string signedNumberText(int number) {
-  return (number < 0 ? "" : " ") + numberText(number);
+  return " " + numberText(number);
 }
 
 std::string_view trimmed(std::string_view text) {

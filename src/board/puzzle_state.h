@@ -3,20 +3,10 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "platform/colour.h"
 
 namespace tessoro {
-
-constexpr std::string_view OpPlus = "+";
-constexpr std::string_view OpMinus = "-";
-constexpr std::string_view OpTimes = "*";
-
-/// The operator pairs of a line in the order in which a search tries them; element 0 is not used.
-constexpr std::array<std::string_view, 10> OpPairs{"",   "++", "+-", "--", "-+",
-                                                   "+*", "*+", "-*", "*-", "**"};
-constexpr std::size_t PairCount = 9;
 
 constexpr platform::Colour ColBlack = platform::palette[0];
 constexpr platform::Colour ColRed = platform::palette[4];

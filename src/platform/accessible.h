@@ -21,6 +21,8 @@ struct Accessible {
   Role role = Role::none;             ///< with `none` the control is not presented at all
   std::function<std::string()> name;  ///< the control in words, as it is at the moment
   std::vector<Action> actions;
+  /// One of a grid of controls that the arrow keys go through, and that Tab takes as one.
+  bool inGrid = false;
 };
 
 }  // namespace platform

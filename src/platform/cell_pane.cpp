@@ -3,8 +3,11 @@
 namespace platform {
 
 void CellPane::press(const MousePress& press) {
-  if (!takesInput()) return;
-  if (press.button == MouseButton::left) armed_ = true;
+  armed_ = takesInput() && press.button == MouseButton::left;
+  if (!takesInput()) {
+    if (Visible() && refused) refused();
+    return;
+  }
   if (mouseDown) mouseDown(press);
   if (press.button == MouseButton::right && contextMenu && takesInput()) {
     contextMenu(press.shift, press.x, press.y);

@@ -38,7 +38,10 @@ class CellPane final : public Control {
 
   /// Any mouse button went down.
   std::function<void(const MousePress&)> mouseDown;
-  /// The left button went down and came up again inside the cell.
+  /// A press came to nothing, since the cell is disabled.
+  std::function<void()> refused;
+  /// The left button went down and came up again inside the cell, which took input both times and
+  /// met no other press in between.
   std::function<void()> click;
   /// The right button went down; the arguments are the shift state and the point.
   std::function<void(std::int16_t shift, double x, double y)> contextMenu;
@@ -47,7 +50,7 @@ class CellPane final : public Control {
 
   /// A mouse button went down on the cell.
   void press(const MousePress& press);
-  /// The button that went down on the cell came up, inside the cell or not.
+  /// A button came up, inside the cell or not, after one had gone down on the cell.
   void release(MouseButton button, bool inside);
 
  private:

@@ -4,8 +4,7 @@
 
 namespace platform {
 
-double Clock::secondsSinceMidnight() {
-  const Time now = std::chrono::system_clock::now();
+double Clock::secondsSinceMidnight(Time now) {
   if (now < hourStart_ || now >= hourEnd_) {
     const std::time_t seconds = std::chrono::system_clock::to_time_t(now);
     std::tm local{};

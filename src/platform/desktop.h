@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "platform/form.h"
@@ -21,7 +22,15 @@ class Desktop {
 
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
-  virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
+  Answer messageBox(std::string_view text, Buttons buttons) {
+    if (boxOpens) boxOpens();
+    return showMessageBox(text, buttons);
+  }
+  /// A message box is about to come up.
+  std::function<void()> boxOpens;
+
+  /// Has a screen reader, if one listens, speak the sentence.
+  virtual void announce(std::string_view sentence) = 0;
 
   /// Lets the windows process their pending events; their handlers run inside the call.
   virtual void yield() = 0;
@@ -38,6 +47,9 @@ class Desktop {
 
   /// Ends the program at once: no further handler runs, and the windows close with it.
   [[noreturn]] virtual void endProgram() = 0;
+
+ protected:
+  virtual Answer showMessageBox(std::string_view text, Buttons buttons) = 0;
 };
 
 }  // namespace platform

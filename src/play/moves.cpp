@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "board/captions.h"
+#include "board/operators.h"
 
 namespace tessoro {
 namespace {
@@ -11,12 +12,9 @@ namespace {
 /// Steps the cell's digit and returns it: upwards from 9 comes 1, downwards from 1 comes 9, and a
 /// cell without a digit counts as 0.
 std::int16_t stepDigit(Cell& cell, platform::MouseButton button) {
-  int digit = readNumber(cell.caption());
-  if (button == platform::MouseButton::right) {
-    digit = digit - 1 < 1 ? 9 : digit - 1;
-  } else {
-    digit = digit + 1 == 10 ? 1 : digit + 1;
-  }
+  const bool down = button == platform::MouseButton::right;
+  int digit = readNumber(cell.caption()) + (down ? -1 : 1);
+  if (!isDigit(digit)) digit = down ? 9 : 1;
   cell.caption = numberText(digit);
   return static_cast<std::int16_t>(digit);
 }
@@ -27,10 +25,6 @@ std::string_view nextOperator(std::string_view text) {
   if (text == OpMinus) return OpTimes;
   return text;
 }
-
-/// The two lines that end in cell 49, as the codes of their operators name them.
-constexpr std::string_view resultsRowCode = "4300";
-constexpr std::string_view resultsColumnCode = "0007";
 
 }  // namespace
 
@@ -57,7 +51,7 @@ void Moves::play(int index, platform::MouseButton button) {
   if (!board_.GridDisp[OuterCornerCells[1]].Visible()) makeFirstMove();
   Cell& cell = board_.GridDisp[index];
   if (cell.Tag().starts_with('X')) {
-    moveOperator(cell);
+    moveOperator(index);
   } else {
     moveNumber(cell, button);
   }
@@ -78,12 +72,12 @@ void Moves::moveNumber(Cell& cell, platform::MouseButton button) {
   results_.UpdateCornerResult();
 }
 
-void Moves::moveOperator(Cell& cell) {
+void Moves::moveOperator(int index) {
+  Cell& cell = board_.GridDisp[index];
   cell.caption = std::string(nextOperator(cell.caption()));
-  const std::string_view code = std::string_view(cell.Tag()).substr(1);
-  results_.UpdateLines(code);
+  results_.UpdateLines(std::string_view(cell.Tag()).substr(1));
   // After a move on one of the two lines that end in cell 49, the cell shows that line's value.
-  if (code != resultsRowCode && code != resultsColumnCode) results_.UpdateCornerResult();
+  if (rowOf(index) != gridSide && columnOf(index) != gridSide) results_.UpdateCornerResult();
 }
 
 }  // namespace tessoro

@@ -32,7 +32,7 @@ class Moves {
   void play(int index, platform::MouseButton button);
   void makeFirstMove();
   void moveNumber(Cell& cell, platform::MouseButton button);
-  void moveOperator(Cell& cell);
+  void moveOperator(int index);
 
   PuzzleState& state_;
   Board& board_;

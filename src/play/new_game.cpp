@@ -3,6 +3,7 @@
 #include <string>
 
 #include "board/captions.h"
+#include "board/operators.h"
 
 namespace tessoro {
 

@@ -13,7 +13,7 @@ namespace tessoro {
 /// composed as puzzles are made, so that printing needs neither the board nor the puzzle.
 class PrintPage {
  public:
-  /// The number of lines on paper: elements 1..55 of `PrintLines`. The others are never printed.
+  /// The number of lines that are printed: elements 1..55 of `PrintLines`.
   static constexpr int lineCount = 55;
   /// The heading lines of the three slots; the grids of a slot stand on the 15 lines below.
   static constexpr std::array<int, 3> headings{1, 20, 39};
@@ -21,7 +21,8 @@ class PrintPage {
 
   PrintPage(const Board& board, const PuzzleState& state) : board_(board), state_(state) {}
 
-  /// Element k is the k-th line of the page. A line is 70 characters wide, a heading less.
+  /// Element k is the k-th line of the page; 0 is not used. A line of a slot is 70 characters wide,
+  /// the heading of a puzzle as wide as its text, which is no wider.
   std::array<std::string, 81> PrintLines;
 
   /// Lays out three slots of empty grids.

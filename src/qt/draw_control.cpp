@@ -127,6 +127,18 @@ void drawControl(const DrawnControl& control, const Look& look, const Canvas& ca
   std::visit([&](const auto* it) { draw(*it, look, canvas); }, control);
 }
 
+/// A bright line between two dark ones, since one or the other stands out on every colour.
+void drawRing(const Canvas& canvas) {
+  constexpr platform::Colour dark = platform::palette[0];
+  constexpr platform::Colour bright = platform::palette[14];
+  const int line = lineWidth(canvas);
+  QRect rect = canvas.rect;
+  for (const platform::Colour colour : {dark, bright, bright, dark}) {
+    drawEdges(canvas, rect, colour, colour, colour, colour);
+    rect.adjust(line, line, -line, -line);
+  }
+}
+
 Look lookOf(const DrawnControl& control) {
   return std::visit([](const auto* it) { return look(*it); }, control);
 }

@@ -34,6 +34,9 @@ struct Canvas {
 
 void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);
 
+/// Draws the ring around a control that has the focus, just inside its edges.
+void drawRing(const Canvas& canvas);
+
 Look lookOf(const DrawnControl& control);
 bool takesInput(const DrawnControl& control);
 const platform::Accessible& accessibleOf(const DrawnControl& control);

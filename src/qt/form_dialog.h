@@ -3,6 +3,7 @@
 #include <QDialog>
 
 #include "platform/form.h"
+#include "qt/announcer.h"
 
 namespace qt {
 
@@ -18,8 +19,12 @@ class FormDialog final : public QDialog {
   /// The user has told the box to close, by its close command or the Escape key.
   void reject() override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   platform::Form& form_;
+  Announcer announcer_{*this};
 };
 
 }  // namespace qt

@@ -1,15 +1,18 @@
 #include "qt/form_view.h"
 
-#include <QMouseEvent>
+#include <QAccessible>
+#include <QApplication>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 #include "platform/cell_pane.h"
+#include "qt/announcer.h"
+#include "qt/control_widget.h"
 #include "qt/convert.h"
-#include "qt/modal.h"
 #include "qt/text_view.h"
 
 namespace qt {
@@ -17,7 +20,7 @@ namespace {
 
 /// The rectangle in the pixels of a grid in which the client area begins at `origin` and `scale`
 /// of them make a device-independent one.
-QRect pixelRect(const platform::Place& place, double scale, QPoint origin) {
+QRect pixelRectAt(const platform::Place& place, double scale, QPoint origin) {
   const auto edge = [&](int twips) {
     return static_cast<int>(std::lround(twips / twipsPerPixel * scale));
   };
@@ -36,36 +39,38 @@ bool isWhole(double scale) {
   return scale == std::floor(scale);
 }
 
-platform::MouseButton toMouseButton(Qt::MouseButton button) {
-  switch (button) {
-    case Qt::LeftButton:
-      return platform::MouseButton::left;
-    case Qt::RightButton:
-      return platform::MouseButton::right;
-    case Qt::MiddleButton:
-      return platform::MouseButton::middle;
+/// The steps to the right and downwards that an arrow key goes; none for other keys.
+QPoint directionOf(int key) {
+  switch (key) {
+    case Qt::Key_Left:
+      return {-1, 0};
+    case Qt::Key_Right:
+      return {1, 0};
+    case Qt::Key_Up:
+      return {0, -1};
+    case Qt::Key_Down:
+      return {0, 1};
     default:
-      return platform::MouseButton::other;
+      return {};
   }
-}
-
-std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
-  return static_cast<std::int16_t>((modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
-                                   (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
-                                   (modifiers.testFlag(Qt::AltModifier) ? 4 : 0));
 }
 
 }  // namespace
 
+QRect pixelRect(const platform::Place& place) {
+  return pixelRectAt(place, 1, {});
+}
+
 FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setFixedSize(static_cast<int>(std::lround(form.clientWidth / twipsPerPixel)),
-               static_cast<int>(std::lround(form.clientHeight / twipsPerPixel)));
+  setFixedSize(pixelRect({0, 0, form.clientWidth, form.clientHeight}).size());
   addAll(form.controls, {});
 }
 
 FormView::~FormView() {
   for (const Item& item : items_) onChange(item.control, nullptr);
+  // While the view is still whole: widgets that end pass the focus on, and tell the view so.
+  qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
 
 void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
@@ -80,8 +85,13 @@ void FormView::addAll(const platform::Controls& controls, const platform::Place&
 template <typename Control>
 void FormView::add(Control& control, const platform::Place& place) {
   const std::size_t index = items_.size();
-  items_.push_back({&control, place, lookOf(&control), takesInput(&control)});
+  Item& item = items_.emplace_back(Item{&control, place, lookOf(&control)});
   onChange(&control, [this, index] { markStale(index); });
+  if (accessibleOf(&control).role == platform::Accessible::Role::none) return;
+  item.widget = new ControlWidget(&control, place, *this);
+  item.widget->setVisible(item.look.visible);
+  item.enabled = takesInput(&control);
+  if (current_ == nullptr && accessibleOf(&control).inGrid) setCurrent(item.widget);
 }
 
 void FormView::add(platform::Frame& frame, const platform::Place& place) {
@@ -91,13 +101,13 @@ void FormView::add(platform::Frame& frame, const platform::Place& place) {
 
 void FormView::add(platform::TextBox& box, const platform::Place& place) {
   auto* view = new TextView(box, this);
-  view->setGeometry(pixelRect(place, 1, {}));
+  view->setGeometry(pixelRect(place));
 }
 
 void FormView::add(platform::CommandButton& button, const platform::Place& place) {
   auto* view = new QPushButton(toQString(button.caption), this);
   view->setFont(toQFont(button.font, 1, logicalDpiY()));
-  view->setGeometry(pixelRect(place, 1, {}));
+  view->setGeometry(pixelRect(place));
   connect(view, &QPushButton::clicked, this, [&button] {
     if (button.click) button.click();
   });
@@ -109,61 +119,117 @@ void FormView::markStale(std::size_t item) {
   items_[item].stale = true;
   if (anyStale_) return;
   anyStale_ = true;
-  QMetaObject::invokeMethod(
-      this, [this] { refreshStale(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(this, [this] { refreshStale(); }, Qt::QueuedConnection);
 }
 
 void FormView::refreshStale() {
   anyStale_ = false;
-  // At a fractional scale the toolkit may cut a pixel off the edges of what is to be repainted.
-  const int margin = isWhole(devicePixelRatioF()) ? 0 : 1;
+  std::vector<std::size_t> changed;
   for (std::size_t i = 0; i < items_.size(); ++i) {
     Item& item = items_[i];
-    if (!item.stale) continue;
-    item.stale = false;
+    if (!std::exchange(item.stale, false)) continue;
+    changed.push_back(i);
     const Look before = std::exchange(item.look, lookOf(item.control));
-    const bool wasEnabled = std::exchange(item.enabled, takesInput(item.control));
-    if (itemChanged) itemChanged(i, before, wasEnabled);
-    if (item.look == before || (!item.look.visible && !before.visible)) continue;
-    for (const QRect& rect : uncovered(i)) {
-      update(rect.adjusted(-margin, -margin, margin, margin));
+    if (item.look != before && (item.look.visible || before.visible)) updatePlace(item.place, i);
+    if (item.widget != nullptr && item.look.visible) item.widget->show();
+  }
+  // Only now, so that the focus can pass to what is shown instead.
+  for (const std::size_t i : changed) {
+    Item& item = items_[i];
+    if (item.widget == nullptr) continue;
+    if (!item.look.visible) hide(*item.widget);
+    tellClients(item);
+  }
+}
+
+/// A control that has the focus leaves it to the one that is shown in its place.
+void FormView::hide(ControlWidget& widget) {
+  if (widget.hasFocus()) {
+    for (const Item& item : items_) {
+      if (item.widget == nullptr || item.widget == &widget || !item.look.visible) continue;
+      if (item.widget->geometry() == widget.geometry()) item.widget->setFocus();
     }
   }
+  widget.hide();
 }
 
-const platform::Accessible& FormView::accessibleOf(std::size_t item) const {
-  return qt::accessibleOf(items_[item].control);
-}
-
-Look FormView::lookOfItem(std::size_t item) const {
-  return lookOf(items_[item].control);
-}
-
-bool FormView::isItemEnabled(std::size_t item) const {
-  return takesInput(items_[item].control);
-}
-
-QRect FormView::itemRect(std::size_t item) const {
-  return pixelRect(items_[item].place, 1, {});
-}
-
-void FormView::performLater(std::size_t item, platform::MouseButton button) {
-  auto* const* cell = std::get_if<platform::CellPane*>(&items_[item].control);
-  if (cell == nullptr) return;
-  const auto perform = [this, cell = *cell, button] {
-    if (isBlocked(*this)) return;
-    cell->press({.button = button});
-    cell->release(button, true);
-  };
-  QMetaObject::invokeMethod(this, perform, Qt::QueuedConnection);
-}
-
-QRegion FormView::uncovered(std::size_t item) const {
-  QRegion region(itemRect(item));
-  for (std::size_t i = item + 1; i < items_.size(); ++i) {
-    if (items_[i].look.visible) region -= itemRect(i);
+/// The toolkit tells clients of assistive technology what is shown or hidden or gets the focus, and
+/// this the rest.
+void FormView::tellClients(Item& item) {
+  const bool wasEnabled = std::exchange(item.enabled, item.widget->takesInput());
+  if (!QAccessible::isActive()) return;
+  const std::string before = std::exchange(item.name, item.widget->accessible().name());
+  if (item.name != before) tellNewName(*item.widget);
+  if (item.enabled != wasEnabled) {
+    QAccessible::State changes;
+    changes.disabled = true;
+    QAccessibleStateChangeEvent event(item.widget, changes);
+    QAccessible::updateAccessibility(&event);
   }
-  return region;
+}
+
+void FormView::setCurrent(ControlWidget* widget) {
+  if (current_ != nullptr) current_->setFocusPolicy(Qt::ClickFocus);
+  current_ = widget;
+  current_->setFocusPolicy(Qt::StrongFocus);
+}
+
+void FormView::focusMoved() {
+  auto* focused = dynamic_cast<ControlWidget*>(QApplication::focusWidget());
+  if (focused != nullptr && focused->parentWidget() != this) focused = nullptr;
+  if (focused != nullptr && focused->accessible().inGrid && focused != current_) {
+    setCurrent(focused);
+  }
+  const ControlWidget* ringed =
+      window()->testAttribute(Qt::WA_KeyboardFocusChange) ? focused : nullptr;
+  const ControlWidget* before = std::exchange(ringed_, ringed);
+  if (ringed == before) return;
+  for (const ControlWidget* widget : {before, ringed}) {
+    if (widget != nullptr) updatePlace(widget->place(), items_.size());
+  }
+}
+
+void FormView::setKeysUsed(bool used) {
+  window()->setAttribute(Qt::WA_KeyboardFocusChange, used);
+  focusMoved();
+}
+
+void FormView::updatePlace(const platform::Place& place, std::size_t above) {
+  QRegion region(pixelRect(place));
+  for (std::size_t i = above + 1; i < items_.size(); ++i) {
+    if (items_[i].look.visible) region -= pixelRect(items_[i].place);
+  }
+  // At a fractional scale the toolkit may cut a pixel off the edges of what is to be repainted.
+  const int margin = isWhole(devicePixelRatioF()) ? 0 : 1;
+  for (const QRect& rect : region) update(rect.adjusted(-margin, -margin, margin, margin));
+}
+
+void FormView::focusFirst() {
+  for (QWidget* widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    if ((widget->focusPolicy() & Qt::TabFocus) != 0) return widget->setFocus();
+  }
+}
+
+bool FormView::moveFocus(const ControlWidget& from, int key) {
+  const QPoint direction = directionOf(key);
+  if (direction.isNull()) return false;
+  setKeysUsed(true);
+  // Of the controls in the same row or column, the nearest in this direction.
+  ControlWidget* nearest = nullptr;
+  int least = 0;
+  for (const Item& item : items_) {
+    if (item.widget == nullptr || !item.look.visible || !item.widget->accessible().inGrid) continue;
+    const QPoint way = item.widget->geometry().center() - from.geometry().center();
+    const int forward = QPoint::dotProduct(way, direction);
+    const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
+    const bool aligned = 2 * aside < (direction.x() != 0 ? from.height() : from.width());
+    if (forward <= 0 || !aligned || (nearest != nullptr && forward >= least)) continue;
+    nearest = item.widget;
+    least = forward;
+  }
+  // With a reason that the toolkit takes for one of the keyboard.
+  if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
+  return true;
 }
 
 void FormView::paintEvent(QPaintEvent* event) {
@@ -181,11 +247,12 @@ void FormView::paintEvent(QPaintEvent* event) {
     QRegion region;
   };
   std::vector<Piece> pieces;
-  QRegion left = pixelRegion(event->region(), toPixels);
+  const QRegion all = pixelRegion(event->region(), toPixels);
+  QRegion left = all;
   for (auto at = items_.crbegin(); at != items_.crend(); ++at) {
     const Item& item = *at;
     if (!item.look.visible) continue;
-    const QRect rect = pixelRect(item.place, scale, origin);
+    const QRect rect = pixelRectAt(item.place, scale, origin);
     const QRegion region = left & rect;
     if (region.isEmpty()) continue;
     left -= rect;
@@ -199,38 +266,14 @@ void FormView::paintEvent(QPaintEvent* event) {
                 {painter, piece.rect, scale, palette(), static_cast<double>(logicalDpiY())});
     ++drawnControls_;
   }
+  if (ringed_ != nullptr) {
+    painter.setClipRegion(all);
+    drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, palette()});
+  }
 }
 
-FormView::Item* FormView::itemAt(QPointF point) {
-  const auto inside = [](double at, int start, int size) {
-    const double twips = at * twipsPerPixel;
-    return twips >= start && twips < start + size;
-  };
-  const auto item = std::find_if(items_.rbegin(), items_.rend(), [&](const Item& it) {
-    return lookOf(it.control).visible && inside(point.x(), it.place.left, it.place.width) &&
-           inside(point.y(), it.place.top, it.place.height);
-  });
-  return item == items_.rend() ? nullptr : &*item;
-}
-
-void FormView::mousePressEvent(QMouseEvent* event) {
-  const Item* item = itemAt(event->position());
-  auto* const* cell = item == nullptr ? nullptr : std::get_if<platform::CellPane*>(&item->control);
-  const bool first = event->buttons() == event->button();
-  if (first) pressed_ = cell == nullptr ? nullptr : *cell;
-  if (cell == nullptr) return;
-  (*cell)->press({toMouseButton(event->button()), shiftState(event->modifiers()),
-                  event->position().x() * twipsPerPixel - item->place.left,
-                  event->position().y() * twipsPerPixel - item->place.top});
-}
-
-void FormView::mouseReleaseEvent(QMouseEvent* event) {
-  if (pressed_ == nullptr) return;
-  const Item* item = itemAt(event->position());
-  const bool inside = item != nullptr && item->control == DrawnControl(pressed_);
-  platform::CellPane* cell = pressed_;
-  if (event->buttons() == Qt::NoButton) pressed_ = nullptr;
-  cell->release(toMouseButton(event->button()), inside);
+void FormView::mousePressEvent(QMouseEvent* /*event*/) {
+  setKeysUsed(false);
 }
 
 void FormView::changeEvent(QEvent* event) {

@@ -1,6 +1,8 @@
 #include "qt/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
@@ -19,12 +21,13 @@ FormWindow::FormWindow(platform::Form& form)
       view_(new FormView(form, this)) {
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
   setWindowTitle(toQString(form.caption()));
-  form.changed = [this] { setWindowTitle(toQString(form_.caption())); };
+  form.changed = [this] { setTitle(*this, toQString(form_.caption())); };
   for (const platform::MenuItem* menu : form.menus) {
     addMenu(*menuBar()->addMenu(toQString(menu->caption())), *menu);
   }
   setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
+  view_->focusFirst();
 }
 
 FormWindow::~FormWindow() {
@@ -55,6 +58,42 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
         },
         Qt::QueuedConnection);
   }
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F10) {
+    openMenu();
+  } else if (event->key() == Qt::Key_Alt) {
+    qApp->installEventFilter(this);
+  } else {
+    event->ignore();
+  }
+}
+
+/// Waits for the Alt key to come up again with nothing in between. The toolkit does so too, but
+/// only goes to the menu bar, and misses the key while a screen reader listens to the keyboard.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  const auto isAlt = [&] { return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt; };
+  const QEvent::Type type = event->type();
+  const bool released = type == QEvent::KeyRelease && isAlt();
+  if (released || (type == QEvent::KeyPress && !isAlt()) || type == QEvent::MouseButtonPress ||
+      type == QEvent::WindowDeactivate) {
+    qApp->removeEventFilter(this);
+  }
+  if (released) QMetaObject::invokeMethod(this, [this] { openMenu(); }, Qt::QueuedConnection);
+  return QMainWindow::eventFilter(watched, event);
+}
+
+void FormWindow::openMenu() {
+  if (menuBar()->actions().isEmpty()) return;
+  QAction* first = menuBar()->actions().first();
+  menuBar()->setActiveAction(first);
+  first->menu()->setActiveAction(first->menu()->actions().value(0));
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ActivationChange) announcer_.windowActivated();
+  QMainWindow::changeEvent(event);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

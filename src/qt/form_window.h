@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "qt/announcer.h"
 
 namespace qt {
 
@@ -16,16 +17,22 @@ class FormWindow final : public QMainWindow {
   ~FormWindow() override;
 
   FormView& view() const { return *view_; }
+  Announcer& announcer() { return announcer_; }
 
  protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void openMenu();
   void addMenu(QMenu& menu, const platform::MenuItem& item);
 
   platform::Form& form_;
   std::vector<platform::MenuItem*> items_;  ///< those that this window shows
   FormView* view_;
+  Announcer announcer_{*this};
 };
 
 }  // namespace qt

@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QKeyEvent>
 #include <QStringDecoder>
+#include <QTextBlock>
 #include <QToolBar>
 #include <algorithm>
 
@@ -30,14 +32,50 @@ QString faultOf(const QString& path) {
   return {};
 }
 
+/// Where the text has the anchor of this name; 0 if it has none.
+int positionOf(const QString& anchor, const QTextDocument& text) {
+  for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+      if (it.fragment().charFormat().anchorNames().contains(anchor))
+        return it.fragment().position();
+    }
+  }
+  return 0;
+}
+
 }  // namespace
 
-HelpWindow::HelpWindow() : text_(new QTextBrowser(this)) {
+HelpText::HelpText(QWidget* parent, Announcer& announcer)
+    : QTextBrowser(parent), announcer_(announcer) {
+  setOpenExternalLinks(false);
+  setAccessibleName("Help");
+}
+
+void HelpText::keyPressEvent(QKeyEvent* event) {
+  // From the first key on there is a caret, which screen readers follow; the mouse needs none.
+  setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard);
+  const QUrl before = source();
+  QTextBrowser::keyPressEvent(event);
+  if (source() != before) moveCaretTo(source().fragment());
+}
+
+bool HelpText::focusNextPrevChild(bool next) {
+  const bool moved = QTextBrowser::focusNextPrevChild(next);
+  if (moved && hasFocus()) announcer_.announce(textCursor().selectedText() + ", link");
+  return moved;
+}
+
+void HelpText::moveCaretTo(const QString& anchor) {
+  QTextCursor caret(document());
+  caret.setPosition(positionOf(anchor, *document()));
+  setTextCursor(caret);
+  announcer_.announce(caret.block().text().simplified());
+}
+
+HelpWindow::HelpWindow() : text_(new HelpText(this, announcer_)) {
   setWindowTitle(QCoreApplication::applicationName() + " Help");
   setCentralWidget(text_);
   resize(560, 620);
-  text_->setOpenExternalLinks(false);
-  text_->setAccessibleName("Help");
   QToolBar* bar = addToolBar("Navigation");
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -47,6 +85,10 @@ HelpWindow::HelpWindow() : text_(new QTextBrowser(this)) {
   back->setEnabled(false);
   connect(back, &QAction::triggered, text_, &QTextBrowser::backward);
   connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+  for (QAction* action : {contents, back}) {
+    bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
+  }
+  text_->setFocus();
 }
 
 bool HelpWindow::showContents(const QString& path) {
@@ -64,6 +106,10 @@ bool HelpWindow::showContents(const QString& path) {
   raise();
   activateWindow();
   return fault.isEmpty();
+}
+
+void HelpWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) close();
 }
 
 bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,

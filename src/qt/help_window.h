@@ -8,8 +8,26 @@
 #include <utility>
 
 #include "platform/help_viewer.h"
+#include "qt/announcer.h"
 
 namespace qt {
+
+/// The text of a help file, read with the mouse or with the keys: arrows and pages, and Tab from
+/// link to link.
+class HelpText final : public QTextBrowser {
+ public:
+  HelpText(QWidget* parent, Announcer& announcer);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  /// Moves the caret to where a link has led, and has it read out.
+  void moveCaretTo(const QString& anchor);
+
+  Announcer& announcer_;
+};
 
 /// Shows a help file: HTML, as far as the toolkit's text browser knows it.
 class HelpWindow final : public QMainWindow {
@@ -20,8 +38,12 @@ class HelpWindow final : public QMainWindow {
   /// that says why it cannot be shown. Whether it is shown.
   bool showContents(const QString& path);
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
-  QTextBrowser* text_;
+  Announcer announcer_{*this};
+  HelpText* text_;
   QString path_;  ///< of the file last asked for
 };
 

@@ -1,6 +1,7 @@
 #include "qt/qt_desktop.h"
 
 #include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
 #include <algorithm>
@@ -9,7 +10,8 @@
 #include <iostream>
 #include <utility>
 
-#include "qt/accessible_view.h"
+#include "qt/announcer.h"
+#include "qt/control_widget.h"
 #include "qt/convert.h"
 #include "qt/form_dialog.h"
 #include "qt/form_window.h"
@@ -68,12 +70,13 @@ QtDesktop::QtDesktop(char* programPath, Program program)
   // The toolkit's file dialog would keep a file of settings in the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
-  installAccessibleViews();
+  installAccessibleControls();
+  installNotifications();
 }
 
 QtDesktop::~QtDesktop() = default;
 
-platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons buttons) {
+platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Buttons buttons) {
   QMessageBox box(main_.get());
   box.setWindowTitle(toQString(program_.messageTitle));
   box.setText(toQString(text));
@@ -87,9 +90,24 @@ platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons b
   box.setWindowModality(Qt::WindowModal);
   box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
                                                 : QMessageBox::Yes | QMessageBox::No);
+  // A sentence that waits is read out with the text: by itself it would come after the box, and cut
+  // it short.
+  const QString sentence = main_ ? main_->announcer().takeSentence() : QString();
+  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+  if (!sentence.isEmpty() && label != nullptr) {
+    label->setAccessibleName(sentence + ". " + label->text());
+  }
   const int answer = box.exec();
   if (buttons == Buttons::ok) return Answer::ok;
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+void QtDesktop::announce(std::string_view sentence) {
+  if (main_) {
+    main_->announcer().announce(toQString(sentence));
+  } else {
+    greeting_ = toQString(sentence);
+  }
 }
 
 void QtDesktop::yield() {
@@ -108,6 +126,7 @@ void QtDesktop::endProgram() {
 FormWindow& QtDesktop::show(platform::Form& form) {
   main_ = std::make_unique<FormWindow>(form);
   printer_.setParentWindow(main_.get());
+  main_->announcer().announce(std::exchange(greeting_, {}));
   main_->show();
   return *main_;
 }

@@ -32,7 +32,7 @@ class QtDesktop final : public platform::Desktop {
   QtDesktop(char* programPath, Program program);
   ~QtDesktop() override;
 
-  Answer messageBox(std::string_view text, Buttons buttons) override;
+  void announce(std::string_view sentence) override;
   void yield() override;
   void showModal(platform::Form& form) override;
   platform::Printer& printer() override { return printer_; }
@@ -46,6 +46,9 @@ class QtDesktop final : public platform::Desktop {
   void close();
   /// Shows the form and handles its events until the program ends; the program's exit status.
   int run(platform::Form& form);
+
+ protected:
+  Answer showMessageBox(std::string_view text, Buttons buttons) override;
 
  private:
   /// The toolkit's own arguments: the program's path alone, since it takes no others.
@@ -61,6 +64,7 @@ class QtDesktop final : public platform::Desktop {
   Arguments arguments_;
   std::unique_ptr<QApplication> application_;
   std::unique_ptr<FormWindow> main_;
+  QString greeting_;  ///< announced before there was a window
   QtPrinter printer_;
   QtHelpViewer helpViewer_;
   platform::Clock clock_;

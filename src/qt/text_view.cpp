@@ -7,6 +7,7 @@ namespace qt {
 TextView::TextView(const platform::TextBox& box, QWidget* parent) : QTextEdit(parent), box_(box) {
   setReadOnly(true);
   setFrameShape(QFrame::NoFrame);
+  setContextMenuPolicy(Qt::PreventContextMenu);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   viewport()->setAutoFillBackground(false);

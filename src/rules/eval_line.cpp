@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "board/puzzle_state.h"
+#include "board/operators.h"
 
 namespace tessoro {
 namespace {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "board/captions.h"
 #include "rules/eval_line.h"
@@ -13,14 +14,21 @@ namespace {
 constexpr int alongRow = 1;
 constexpr int downColumn = gridSide;
 
-constexpr std::array<int, 6> lineResultCells{7, 21, 35, 43, 45, 47};
 /// Four number cells whose lines together are all rows and columns of numbers.
 constexpr std::array<int, 4> cellsOfAllLines{3, 5, 15, 29};
+
+constexpr std::array<int, 6> lineResultCells = [] {
+  std::array<int, 6> cells{};
+  std::copy_if(numberCells.begin(), numberCells.end(), cells.begin(), [](int cell) {
+    return roleOf(cell) == CellRole::rowResult || roleOf(cell) == CellRole::columnResult;
+  });
+  return cells;
+}();
 
 }  // namespace
 
 void Results::show(int value, int cell) {
-  board_.GridDisp[cell].caption = value >= 1 && value <= 9 ? numberText(value) : "?";
+  board_.GridDisp[cell].caption = isDigit(value) ? numberText(value) : std::string(noNumber);
 }
 
 void Results::updateLine(int first, int step) {
@@ -41,9 +49,9 @@ void Results::UpdateLines(std::string_view code) {
 
 void Results::UpdateCornerResult() {
   const bool unknown = std::ranges::any_of(
-      lineResultCells, [&](int cell) { return board_.GridDisp[cell].caption() == "?"; });
+      lineResultCells, [&](int cell) { return board_.GridDisp[cell].caption() == noNumber; });
   if (unknown) {
-    board_.GridDisp[CornerCells[4]].caption = "?";
+    board_.GridDisp[CornerCells[4]].caption = std::string(noNumber);
   } else {
     updateLine(CornerCells[3], alongRow);
   }

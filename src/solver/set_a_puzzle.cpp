@@ -1,5 +1,9 @@
 #include "solver/set_a_puzzle.h"
 
+#include <string>
+
+#include "board/captions.h"
+
 namespace tessoro {
 
 using platform::Desktop;
@@ -17,7 +21,7 @@ void SetAPuzzle::enter() {
   for (int k = 1; k <= 4; ++k) {
     Cell& corner = board_.GridDisp[CornerCells[k]];
     corner.enabled = true;
-    corner.caption = "?";
+    corner.caption = std::string(noNumber);
     state_.*cornerTargets[k] = 0;
   }
   board_.colourCorners(ColRed);
@@ -54,7 +58,7 @@ void SetAPuzzle::leave() {
 void SetAPuzzle::Solveit_Click() {
   if (!state_.SolveMode) return;
   for (int k = 1; k <= 4; ++k) {
-    if (board_.GridDisp[CornerCells[k]].caption() == "?") {
+    if (board_.GridDisp[CornerCells[k]].caption() == noNumber) {
       desktop_.messageBox("set corner numbers first", Desktop::Buttons::ok);
       return;
     }

@@ -1,21 +1,13 @@
 #include "solver/solution_attempt.h"
 
 #include "board/captions.h"
+#include "board/operators.h"
 
 namespace tessoro {
 namespace {
 
-constexpr std::string_view noneFits = "?";
-
-/// The digits as the solution keeps them; element 0 is not used.
-constexpr std::array<std::string_view, 10> digitTexts{"",   " 1", " 2", " 3", " 4",
-                                                      " 5", " 6", " 7", " 8", " 9"};
-
 bool isFixed(std::int16_t target) {
   return target > 0;
-}
-bool isDigit(std::int16_t value) {
-  return value >= 1 && value <= 9;
 }
 
 std::string_view firstOperator(std::size_t pair) {
@@ -43,6 +35,11 @@ void setPairValues(SolutionAttempt::PairValues& values, int a, int b, int c) {
 
 }  // namespace
 
+SolutionAttempt::SolutionAttempt(PuzzleState& state, Digits& digits)
+    : state_(state), digits_(digits) {
+  for (int digit = 1; digit <= 9; ++digit) digitTexts_[digit] = signedNumberText(digit);
+}
+
 bool SolutionAttempt::run() {
   for (int row = 1; row <= 3; ++row) drawRow(row);
   if (!chooseColumns()) return false;
@@ -61,7 +58,7 @@ void SolutionAttempt::drawRow(int row) {
     for (int k = start; k < start + 3; ++k) {
       const int digit = digits_.draw();  // drawn even where the number is fixed
       const bool fixed = k == 1 && isFixed(state_.TargetTL);
-      state_.SolNumbers[k] = digitTexts[fixed ? state_.TargetTL : digit];
+      state_.SolNumbers[k] = digitTexts_[fixed ? state_.TargetTL : digit];
     }
     ChooseRowPair(start);
   } while (!found());
@@ -96,12 +93,12 @@ void SolutionAttempt::ChooseColPair(int col) {
 void SolutionAttempt::choosePair(int first, int step, std::int16_t target) {
   const auto number = [&](int k) { return readNumber(state_.SolNumbers[first + k * step]); };
   setPairValues(PairValue, number(0), number(1), number(2));
-  LineResult = noneFits;
-  LineOp1 = noneFits;
-  LineOp2 = noneFits;
+  LineResult = noNumber;
+  LineOp1 = noNumber;
+  LineOp2 = noNumber;
   for (std::size_t k = 1; k <= PairCount; ++k) {
     if (isDigit(PairValue[k]) && (!isFixed(target) || PairValue[k] == target)) {
-      LineResult = digitTexts[PairValue[k]];
+      LineResult = digitTexts_[PairValue[k]];
       takeOperators(k);
       return;
     }
@@ -123,13 +120,13 @@ void SolutionAttempt::MatchGrandTotal() {
       state_.SolOperators[8] = secondOperator(i);
       takeOperators(j);
       if (isFixed(state_.TargetBR) && total != state_.TargetBR) continue;
-      state_.SolNumbers[16] = digitTexts[total];
+      state_.SolNumbers[16] = digitTexts_[total];
       state_.SolOperators[15] = LineOp1;
       state_.SolOperators[16] = LineOp2;
       return;
     }
   }
-  LineResult = noneFits;
+  LineResult = noNumber;
 }
 
 }  // namespace tessoro

@@ -2,8 +2,11 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
+#include "board/captions.h"
+#include "board/operators.h"
 #include "board/puzzle_state.h"
 #include "solver/digits.h"
 
@@ -18,7 +21,7 @@ namespace tessoro {
 /// Targets fix the corners (1, 1), (1, 4), (4, 1) and (4, 4).
 class SolutionAttempt {
  public:
-  SolutionAttempt(PuzzleState& state, Digits& digits) : state_(state), digits_(digits) {}
+  SolutionAttempt(PuzzleState& state, Digits& digits);
 
   /// Makes the attempt; whether it has given a solution. If not, `SolNumbers` and `SolOperators`
   /// are left half made.
@@ -49,10 +52,13 @@ class SolutionAttempt {
   bool chooseColumns();
   void choosePair(int first, int step, std::int16_t target);
   void takeOperators(std::size_t pair);
-  bool found() const { return LineResult != "?"; }
+  bool found() const { return LineResult != noNumber; }
 
   PuzzleState& state_;
   Digits& digits_;
+  /// The digits as the solution keeps them, made once since a search stores a great many; element 0
+  /// is not used.
+  std::array<std::string, 10> digitTexts_;
 };
 
 }  // namespace tessoro

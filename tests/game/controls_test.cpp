@@ -1,43 +1,148 @@
-#include <gtest/gtest.h>
+#include <cstdlib>
+#include <ctime>
+#include <sstream>
 
-#include "platform/cell_pane.h"
-#include "platform/form.h"
+#include "app/about_form.h"
+#include "app/pictures.h"
+#include "fixture.h"
+#include "platform/clock.h"
 
-namespace {
+namespace tessoro::test {
 
-using platform::MouseButton;
-
-TEST(CellPaneTest, PressesBecomeEventsUnlessItIsDisabledOrHidden) {
-  platform::CellPane cell;
-  std::string events;
-  cell.mouseDown = [&](const platform::MousePress&) { events += "down "; };
-  cell.click = [&] { events += "click "; };
-  cell.contextMenu = [&](int, double, double) { events += "context "; };
-  const auto pressAndRelease = [&](MouseButton button, bool inside) {
-    cell.press({.button = button});
-    cell.release(button, inside);
-  };
-  pressAndRelease(MouseButton::left, false);
-  pressAndRelease(MouseButton::right, true);
-  pressAndRelease(MouseButton::left, true);
-  EXPECT_EQ(events, "down down context down click ");
-  cell.press({});
-  for (auto* property : {&cell.enabled, &cell.Visible}) {
-    *property = false;  // at first between press and release
-    cell.release(MouseButton::left, true);
-    pressAndRelease(MouseButton::right, true);
-    *property = true;
+/// A form, its menu and its controls in words, a line for each.
+struct Description {
+  explicit Description(const platform::Form& form) {
+    add(form.caption(), form.clientWidth, form.clientHeight, form.icon);
+    for (const auto* menu : form.menus) {
+      add("\nmenu", menu->caption());
+      for (const auto* item : menu->items) add(item->caption());
+    }
+    add(form.controls);
   }
-  EXPECT_EQ(events, "down down context down click down ");
+  void describe(const platform::CellPane& it) {
+    add("\ncell", it.place, it.caption(), platform::Font{it.font, it.fontsize, it.fontbold});
+    add(it.forecolor(), it.backcolor(), it.bordertop, it.borderleft, it.borderbottom);
+    add(it.borderright);
+  }
+  void describe(const platform::Label& it) {
+    add("\nlabel", it.place, it.accessible.name(), it.font, it.forecolor, it.backcolor);
+  }
+  void describe(const platform::PictureBox& it) { add("\npicture", it.place, it.picture); }
+  void describe(const platform::TextBox& it) { add("\ntext", it.place, it.text, it.font); }
+  void describe(const platform::CommandButton& it) { add("\nOK", it.place, it.caption, it.font); }
+  void describe(const platform::Frame& it) { add("\nframe", it.place, it.controls); }
+
+  void add(const auto&... parts) { (addPart(parts), ...); }
+  void addPart(const auto& it) { text << it << ' '; }
+  void addPart(platform::Colour it) { text << std::hex << it.value << std::dec << ' '; }
+  void addPart(const platform::Place& it) { add(it.left, it.top, it.width, it.height); }
+  void addPart(const platform::Font& it) { add(it.name, it.points, it.bold ? "bold" : "light"); }
+  void addPart(const platform::Picture* it) { add(it == &calculator ? "calculator" : "face"); }
+  void addPart(const platform::Controls& controls) {
+    for (const auto& control : controls) std::visit([this](auto* it) { describe(*it); }, control);
+  }
+  std::ostringstream text;
+};
+
+TEST(LayoutTest, TheMainWindow) {
+  const std::string look = " 80000000 80000001 80000002 80000002 80000003 80000003 ";
+  const auto cellAt = [&](const std::string& leftTop) {
+    return "\ncell " + leftTop + " 450 450 9 Arial 14.4 bold" + look;
+  };
+  std::string expected =
+      "Tessoro 4536 4644 calculator \nmenu Puzzle Start a Solution Show Solution "
+      "- Set a Puzzle for computer to solve - Print - Help About - Exit " +
+      cellAt("8430 2970") + "\nframe 60 60 4395 4515 ";
+  for (const auto* top : {" 780", " 1230", " 1650", " 2100", " 2550", " 3000", " 3420"}) {
+    for (const std::string left : {"630", "1080", "1530", "1980", "2400", "2850", "3300"}) {
+      expected += cellAt(left + top);
+    }
+  }
+  for (const auto* at : {"180 300", "3720 360", "180 3870", "3720 3840"}) expected += cellAt(at);
+  for (const std::string at : {"150 315", "3750 315", "150 3870", "3720 3840"}) {
+    expected += "\npicture " + at + " 510 510 face ";
+  }
+  expected +=
+      "\nlabel 720 480 3000 270 Get corner numbers right Arial 9.6 bold ffffff 8000 "
+      "\nlabel 720 480 3000 270 Click corners to set Puzzle Arial 9.6 bold ffffff 80 "
+      "\ncell 1110 4020 2085 315 New Puzzle MS Sans Serif 7.8 light" +
+      look + "\ncell 1110 4020 2085 315 Solve Puzzle MS Sans Serif 7.8 light" + look;
+  EXPECT_EQ(Description(Form1()).text.str(), expected);
 }
 
-TEST(PropertyTest, ChangesNotifyOnceAndEqualValuesNobody) {
-  platform::CellPane cell;
-  int changes = 0;
-  cell.changed = [&] { ++changes; };
-  for (const bool enabled : {true, false, false}) cell.enabled = enabled;
-  for (const auto* caption : {"", "7", "7"}) cell.caption = caption;
-  EXPECT_EQ(changes, 2);
+TEST(LayoutTest, TheAboutBox) {
+  AboutForm box;
+  EXPECT_EQ(Description(box).text.str(), R"(About Tessoro 4752 1452 calculator 
+OK 4155 600 510 375 OK MS Sans Serif 7.8 bold 
+text 0 0 4125 1050 
+Tessoro, written by the Tessoro developers
+tessoro@example.org MS Sans Serif 7.8 bold 
+picture 4185 30 510 480 calculator 
+label 30 1110 4725 315 Version 1.0 MS Sans Serif 7.8 bold ffffff 0 )");
+  for (const auto& close : {box.AboutOk.click, box.AboutText.mouseDown, box.unload}) {
+    box.Visible = true;
+    close();
+    EXPECT_FALSE(box.Visible());
+  }
 }
 
-}  // namespace
+TEST(LayoutTest, ThePicturesAndTheirColours) {
+  unsigned fingerprint = 0;
+  for (const auto colour : platform::palette) fingerprint = 31 * fingerprint + colour.value;
+  for (const auto* picture : {&smilingFace, &calculator}) {
+    for (const auto& row : picture->rows) {
+      for (const char pixel : row) fingerprint = 31 * fingerprint + static_cast<unsigned>(pixel);
+    }
+  }
+  EXPECT_EQ(fingerprint, 1038573527U) << "look at them, and take the number if they are right";
+}
+
+/// L and R are presses of the left and the right button, l and r their releases inside the cell, o
+/// the left one's outside; - disables or hides the cell, + ends that.
+TEST(CellPaneTest, PressesBecomeEventsUnlessItIsDisabledOrHidden) {
+  using enum platform::MouseButton;
+  Cell cell;
+  std::string events;
+  for (auto* property : {&cell.enabled, &cell.Visible}) {
+    const auto after = [&](const std::string& actions) {
+      events.clear();
+      for (const char it : actions) {
+        if (it == 'L' || it == 'R') cell.press({.button = it == 'L' ? left : right});
+        if (it == 'l' || it == 'r' || it == 'o') cell.release(it == 'r' ? right : left, it != 'o');
+        if (it == '-' || it == '+') *property = it == '+';
+      }
+      return events;
+    };
+    cell.mouseDown = [&](const platform::MousePress&) { events += "down "; };
+    cell.click = [&] { events += "click "; };
+    cell.contextMenu = [&](int, double, double) { events += "context "; };
+    EXPECT_EQ(after("Lrll"), "down click ");
+    EXPECT_EQ(after("Lol"), "down ");
+    EXPECT_EQ(after("LRl"), "down down context ");
+    EXPECT_EQ(after("-LlR+l"), "");
+    EXPECT_EQ(after("L-l+l"), "down ");
+    EXPECT_EQ(after("L-L+l"), "down ");
+    cell.mouseDown = [&](const platform::MousePress&) { *property = false; };
+    EXPECT_EQ(after("R+"), "") << "disabled by its own press";
+    cell.changed = [&] { events += "changed "; };
+    EXPECT_EQ(after("--++"), "changed changed ");
+    cell.changed = nullptr;
+  }
+}
+
+TEST(ClockTest, TellsTheLocalTimeOfDay) {
+  using namespace std::chrono_literals;
+  setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1);
+  tzset();
+  platform::Clock clock;
+  // In UTC and in local time, on the day when clocks in Europe are set from 2 to 3.
+  const std::vector<std::pair<std::chrono::milliseconds, double>> times{
+      {30min, 5400}, {1h - 250ms, 7199.75},   {1h, 10800},
+      {30min, 5400}, {22h - 250ms, 86399.75}, {22h, 0}};
+  for (const auto& [utc, local] : times) {
+    const platform::Clock::Time day = std::chrono::sys_days{2026y / 3 / 29};
+    EXPECT_EQ(clock.secondsSinceMidnight(day + utc), local);
+  }
+}
+
+}  // namespace tessoro::test

@@ -2,90 +2,81 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "app/game.h"
 #include "board/captions.h"
+#include "invariants.h"
 
 namespace tessoro::test {
 
 struct ProgramEnded {};
+using Log = std::vector<std::string>;
 
-/// Keeps what is asked of the printer and the help viewer.
-struct Requests final : platform::Printer, platform::HelpViewer {
-  void setFontName(std::string_view name) override { all.push_back("font " + std::string(name)); }
-  void setFontSize(double points) override { all.push_back("size " + std::to_string(points)); }
-  void printLine(std::string_view text) override { all.emplace_back(text); }
-  void endDocument() override { all.emplace_back("end"); }
-  bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
-                unsigned data) override {
-    all.push_back(owner.caption() + "/" + std::string(file) + "/" + std::to_string(command) + "/" +
-                  std::to_string(data));
-    return false;
-  }
-  std::vector<std::string> all;
-};
-
-/// A desktop without windows: the test answers its boxes and runs handlers while it yields.
-struct FakeDesktop final : platform::Desktop {
-  Answer messageBox(std::string_view text, Buttons buttons) override {
-    messages.emplace_back(text);
+/// A desktop without windows that keeps what it is asked for in a log. The test answers its boxes
+/// and runs handlers while it yields.
+struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpViewer {
+  void announce(std::string_view sentence) override { said.emplace_back(sentence); }
+  Answer showMessageBox(std::string_view text, Buttons buttons) override {
+    log.push_back(std::string(text) + (buttons == Buttons::ok ? " [OK]" : " [Yes] [No]"));
+    said.push_back(log.back());
     return buttons == Buttons::ok ? Answer::ok : answer;
   }
-  void yield() override {
-    ++yields;
-    if (onYield) onYield();
-  }
+  void yield() override { onYield(); }
   double secondsSinceMidnight() override { return clock += tick; }
-  void showModal(platform::Form& form) override {
-    form.Visible = true;
-    form.unload();
-    EXPECT_FALSE(form.Visible());
+  void showModal(platform::Form& form) override { log.push_back(form.caption()); }
+  platform::Printer& printer() override { return *this; }
+  void setFontName(std::string_view name) override { log.emplace_back(name); }
+  void setFontSize(double points) override { log.push_back(std::to_string(points)); }
+  void printLine(std::string_view text) override { log.emplace_back(text); }
+  void endDocument() override { log.emplace_back("end"); }
+  platform::HelpViewer& helpViewer() override { return *this; }
+  bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
+                unsigned data) override {
+    log.insert(log.end(), {owner.caption(), std::string(file), std::to_string(command + data)});
+    return false;
   }
-  platform::Printer& printer() override { return requests; }
-  platform::HelpViewer& helpViewer() override { return requests; }
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
-  std::vector<std::string> messages;
-  Requests requests;
+  Log log;
+  Log said;  ///< what a screen reader was to speak, and the boxes
   Answer answer = Answer::no;
-  std::function<void()> onYield;
-  int yields = 0;
+  std::function<void()> onYield = [] {};
   double clock = 30000;
   double tick = 1e-6;  ///< how far the clock goes on between two readings
 };
 
-/// Digits that the test writes down; when they are used up, real ones.
-struct ScriptedDigits final : Digits {
-  explicit ScriptedDigits(platform::Desktop& desktop) : real_(desktop) {}
-  int draw() override {
-    if (script.empty()) return real_.draw();
-    const int digit = script.front();
-    script.pop_front();
-    return digit;
-  }
-
-  std::deque<int> script;
-  ReseededDigits real_;
-};
-
-struct GameTest : testing::Test {
+/// The game, started on a puzzle whose solution is known. It draws the digits of `script`, and when
+/// they are used up, real ones.
+struct GameTest : testing::Test, Digits {
   FakeDesktop desktop;
-  ScriptedDigits digits{desktop};
-  Game game{desktop, digits};
+  std::string script;
+  ReseededDigits real{desktop};
+  Game game{desktop, *this};
   PuzzleState& state = game.state;
   Form1& form = game.form;
+  const std::string known = "771534952";
+  /// What `look` gives between the first and the last row: an empty grid, and the known solution.
+  const std::string emptyRows =
+      "\n_.#._.#._.#._.\n_._._._._. = .\n_.#._.#._.#._.\n_._._._._. = .\n =#. =#. =#. =\n";
+  const std::string knownRows =
+      "\n_+#._+#._+#._*\n_5_+_3_-_4 = 4\n_-#._-#._+#._*\n_9_-_5_-_2 = 2\n =#. =#. =#. =\n";
 
-  void SetUp() override { game.startUp.Form_Load(); }
-
+  int draw() override {
+    if (script.empty()) return real.draw();
+    const int digit = script.front() - '0';
+    script.erase(0, 1);
+    return digit;
+  }
+  void SetUp() override {
+    script = known;
+    game.startUp.Form_Load();
+  }
+  std::string look() const { return Invariants::look(game); }
   Cell& cell(int index) { return form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
-  void put(const std::vector<std::pair<int, std::string>>& captions) {
-    for (const auto& [index, text] : captions) cell(index).caption = text;
-  }
   void press(int index, platform::MouseButton button = platform::MouseButton::left) {
     cell(index).press({.button = button});
   }
@@ -93,25 +84,8 @@ struct GameTest : testing::Test {
     button.press({});
     button.release(platform::MouseButton::left, true);
   }
-  std::string captionsOf(const std::vector<int>& cells) {
-    std::string all;
-    for (const int index : cells) all += caption(index).empty() ? "." : caption(index);
-    return all;
-  }
-  /// Presses the cell until it shows the text.
   void turnTo(int index, const std::string& text) {
     for (int presses = 0; caption(index) != text && presses < 10; ++presses) press(index);
-    ASSERT_EQ(caption(index), text);
-  }
-  /// Plays the stored solution but for one number, or less of it where that is enough for the four
-  /// corners.
-  void playSolution(int leaveOut = 0) {
-    for (int k = 1; k <= 16; ++k) {
-      if (cell(numberCells[k]).enabled() && numberCells[k] != leaveOut && !state.BoardLocked) {
-        turnTo(numberCells[k], std::string(trimmed(state.SolNumbers[k])));
-      }
-      if (!state.BoardLocked) turnTo(operatorCells[k], state.SolOperators[k]);
-    }
   }
 };
 

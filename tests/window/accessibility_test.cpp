@@ -1,12 +1,75 @@
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
 #include <set>
 
 #include "window_fixture.h"
 
 namespace tessoro::test {
 
-/// The game as a screen reader meets it: through names, roles, states and actions alone.
+/// The game as it is met through a screen reader and the keys: through names, roles, states,
+/// actions and events alone.
 struct AccessibilityTest : WindowTest {
+  /// What clients have been told: "focus NAME", "name NAME", "state NAME", "show NAME", "hide
+  /// NAME", and the sentences that are spoken, as "say SENTENCE".
+  static inline QStringList told;
   QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&view);
+
+  AccessibilityTest() {
+    setListening(true);
+    QAccessible::installUpdateHandler(hear);
+    settle();
+    told.clear();
+  }
+  ~AccessibilityTest() override {
+    QAccessible::installUpdateHandler(nullptr);
+    setListening(false);
+  }
+  /// As when a screen reader begins to listen, or ends.
+  static void setListening(bool listening) {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listening);
+  }
+  static void hear(QAccessibleEvent* event) {
+    const QAccessibleInterface* source = event->accessibleInterface();
+    if (source == nullptr) return;
+    const QString name = source->text(QAccessible::Name);
+    const bool sentence = source->role() == QAccessible::Notification;
+    switch (static_cast<int>(event->type())) {
+      case QAccessible::Focus:
+        return told.append("focus " + name);
+      case QAccessible::NameChanged:
+        return told.append("name " + name);
+      case QAccessible::StateChanged:
+        return told.append("state " + name);
+      case QAccessible::ObjectHide:
+        if (!sentence) told.append("hide " + name);
+        return;
+      case QAccessible::ObjectShow:
+        return told.append((sentence ? "say " : "show ") + name);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+      case QAccessible::Announcement:
+        return told.append("say " + dynamic_cast<QAccessibleAnnouncementEvent*>(event)->message());
+#endif
+      default:
+        return;
+    }
+  }
+  /// What has been told since the last call, of the kinds that begin so.
+  static QStringList heard(const QString& kind) {
+    settle();
+    QStringList matching;
+    for (const QString& it : std::exchange(told, {})) {
+      if (it.startsWith(kind)) matching += it.mid(kind.size() + 1);
+    }
+    return matching;
+  }
+  void key(Qt::Key key) const { QTest::keyClick(window.windowHandle(), key); }
+  /// Presses the key and tells where the focus goes.
+  QString focusAfter(Qt::Key pressed) {
+    key(pressed);
+    return heard("focus").join("|");
+  }
 
   /// What is found at the middle of a control.
   QAccessibleInterface* at(const platform::Control& control) const {
@@ -22,54 +85,150 @@ struct AccessibilityTest : WindowTest {
 TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
   act(cell(17), "Decrease");
   for (const int index : {2, 4, 4, 16, 16, 16}) act(cell(index), "Press");
-  std::set<std::string> readings;
+  std::multiset<std::string> readings;
   for (int i = 0; i < all->childCount(); ++i) {
     QAccessibleInterface* control = all->child(i);
     QString text = qAccessibleRoleString(control->role());
     text += ": " + control->text(QAccessible::Name);
-    if (auto* actions = control->actionInterface()) text += " " + actions->actionNames().join("/");
-    if (control->state().disabled) text += " (disabled)";
-    if (control->state().invisible) text += " (invisible)";
+    text += " [" + control->actionInterface()->actionNames().join("/") + "]";
+    if (control->state().disabled) text += " disabled";
+    if (control->state().invisible) text += " invisible";
     readings.insert(text.toStdString());
-    EXPECT_EQ(all->indexOfChild(control), i);
   }
   EXPECT_EQ(readings.size(), 40U + 4 + 4 + 2 + 2) << "no holes; targets, faces, labels, buttons";
+  const std::string topLeft = caption(50);
+  const std::string topRight = caption(51);
   for (const auto& reading : std::vector<std::string>{
-           "Button: Row 1 column 1, " + caption(1) + "  (disabled)",
-           "Button: Row 1 column 2, plus Press/Decrease",
-           "Button: Row 1 column 3, empty Press/Decrease",
-           "Button: Row 1 column 4, minus Press/Decrease",
-           "Button: Row 3 column 2, times Press/Decrease",
-           "Button: Row 3 column 3, 9 Press/Decrease",
-           "StaticText: Row 3 column 6, equals  (disabled)",
-           "StaticText: Row 3 column 7, no value  (disabled)",
-           "StaticText: Top left target, " + caption(1) + " (disabled) (invisible)",
-           "StaticText: Top right target, " + caption(51) + " (disabled)",
-           "Graphic: Top left corner right", "Graphic: Top right corner right (invisible)",
-           "StaticText: Get corner numbers right", "Button: New Puzzle Press",
-           "Button: Solve Puzzle  (disabled) (invisible)"}) {
+           "Button: " + topLeft + ", row 1 column 1, target " + topLeft +
+               ", correct [SetFocus] disabled",
+           "Button: no value, row 1 column 7, target " + topRight + " [SetFocus] disabled",
+           "Button: plus, row 1 column 2 [Press/SetFocus]",
+           "Button: empty, row 1 column 3 [Press/Decrease/SetFocus]",
+           "Button: minus, row 1 column 4 [Press/SetFocus]",
+           "Button: times, row 3 column 2 [Press/SetFocus]",
+           "Button: 9, row 3 column 3 [Press/Decrease/SetFocus]",
+           "StaticText: equals, row 3 column 6 [SetFocus] disabled",
+           "StaticText: no value, row 3 column 7 [SetFocus] disabled",
+           "StaticText: top left target " + topLeft + " [] disabled invisible",
+           "StaticText: top right target " + topRight + " [] disabled",
+           "Graphic: top left correct []", "Graphic: top right correct [] invisible",
+           "StaticText: Get corner numbers right []", "Button: New Puzzle [Press/SetFocus]",
+           "Button: Solve Puzzle [SetFocus] disabled invisible"}) {
     EXPECT_EQ(readings.count(reading), 1U) << reading;
   }
   for (int index = 1; index <= gridCells; ++index) {
     if (roleOf(index) == CellRole::hole) continue;
-    const QString name = QString("Row %1 column %2,").arg(rowOf(index)).arg(columnOf(index));
-    EXPECT_TRUE(at(cell(index))->text(QAccessible::Name).startsWith(name)) << index;
+    const QString place = QString(", row %1 column %2").arg(rowOf(index)).arg(columnOf(index));
+    EXPECT_TRUE(at(cell(index))->text(QAccessible::Name).contains(place)) << index;
     const QPoint start = view.mapToGlobal(middleOf(cell(index)) - QPoint(15, 15));
     EXPECT_EQ(at(cell(index))->rect(), QRect(start, QSize(30, 30))) << index;
   }
 }
 
-TEST_F(AccessibilityTest, APuzzleIsPlayedByActionsAloneButNotBehindABox) {
-  onModal = [this, answer = onModal](QWidget* box) {
-    act(game.form.NewPuz, "Press");
+TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
+  click(cell(17));
+  EXPECT_EQ(heard("say"), QStringList("1, no line has a value yet, corners to get right: 3"));
+  act(cell(17), "Press");
+  const QStringList names = told.filter("name");
+  EXPECT_TRUE(told.contains("say 2"));
+  EXPECT_EQ(names.contains("name 2, row 3 column 3"), QT_VERSION < QT_VERSION_CHECK(6, 8, 0))
+      << "newer screen readers would read out a new name of the focus too";
+  act(cell(18), "Press");
+  EXPECT_TRUE(told.contains("name plus, row 3 column 4"));
+  key(Qt::Key_Space);
+  EXPECT_EQ(heard("say"), QStringList({"2", "plus", "3"}));
+  key(Qt::Key_Minus);
+  key(Qt::Key_Plus);
+  EXPECT_EQ(heard("say"), QStringList({"2", "3"}));
+
+  choose("Set a Puzzle for computer to solve");
+  EXPECT_TRUE(told.contains("hide New Puzzle") && told.contains("show Solve Puzzle"));
+  EXPECT_TRUE(told.contains("hide top left correct") &&
+              told.contains("hide top right target " + QString::fromStdString(caption(51))));
+  EXPECT_TRUE(told.contains("state no value, row 1 column 1"));
+  EXPECT_FALSE(at(cell(1))->state().disabled);
+  EXPECT_EQ(heard("say"), QStringList("Press each corner to its number, then press Solve Puzzle"));
+  click(game.form.Solveit);
+  click(cell(17));
+  EXPECT_EQ(heard("say"),
+            QStringList({"Press a corner first", "Only corners are set in this mode"}));
+  key(Qt::Key_Tab);
+  choose("Set a Puzzle for computer to solve");
+  EXPECT_EQ(heard("focus").last(), "New Puzzle") << "it is where the other button was";
+}
+
+TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
+  EXPECT_TRUE(QApplication::focusWidget()->geometry().contains(middleOf(cell(1))));
+  using enum Qt::Key;
+  for (const auto& [pressed, place] :
+       std::vector<std::pair<Qt::Key, QString>>{{Key_Left, ""},
+                                                {Key_Up, ""},
+                                                {Key_Right, "row 1 column 2"},
+                                                {Key_Down, "row 3 column 2"},
+                                                {Key_Left, "row 3 column 1"},
+                                                {Key_Up, "row 2 column 1"},
+                                                {Key_Right, "row 2 column 3"},
+                                                {Key_Right, "row 2 column 5"},
+                                                {Key_Right, "row 2 column 7"},
+                                                {Key_Right, ""},
+                                                {Key_Up, "row 1 column 7"},
+                                                {Key_Up, ""},
+                                                {Key_Left, "row 1 column 6"},
+                                                {Key_Down, "row 3 column 6"},
+                                                {Key_Tab, "New Puzzle"},
+                                                {Key_Down, ""},
+                                                {Key_Tab, "row 3 column 6"},
+                                                {Key_Backtab, "New Puzzle"}}) {
+    const QString focused = focusAfter(pressed);
+    EXPECT_TRUE(place.isEmpty() ? focused.isEmpty() : focused.contains(place))
+        << focused.toStdString();
+  }
+  click(cell(33), Qt::RightButton);
+  EXPECT_EQ(heard("focus"), QStringList("empty, row 5 column 5"));
+  EXPECT_EQ(focusAfter(Qt::Key_Tab), "New Puzzle");
+  EXPECT_EQ(focusAfter(Qt::Key_Tab), "9, row 5 column 5") << "the one pressed last";
+  for (const Qt::Key opening : {Qt::Key_F10, Qt::Key_Alt}) {
+    key(opening);
+    settle();
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << opening;
+    QApplication::activePopupWidget()->close();
+  }
+}
+
+TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
+  const auto walk = [&](Qt::Key arrow, const QString& place) {
+    for (int steps = 0; steps < gridSide; ++steps) {
+      const auto* focused = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+      if (focused->text(QAccessible::Name).contains(place)) return;
+      key(arrow);
+    }
+  };
+  QString last;
+  onModal = [this, &last, answer = onModal](QWidget* box) {
+    last = box->findChild<QLabel*>("qt_msgbox_label")->accessibleName();
+    act(cell(17), "Press");
+    key(Qt::Key_Space);
     choose("Set a Puzzle for computer to solve");
     answer(box);
   };
-  playSolution([&](int index) { act(cell(index), "Press"); });
+  qsizetype presses = 0;
+  playSolution([&](int index) {
+    walk(Qt::Key_Left, "column 1");
+    walk(rowOf(index) > 3 ? Qt::Key_Down : Qt::Key_Up, QString("row %1 ").arg(rowOf(index)));
+    walk(rowOf(index) > 3 ? Qt::Key_Up : Qt::Key_Down, QString("row %1 ").arg(rowOf(index)));
+    walk(Qt::Key_Right, QString("column %1").arg(columnOf(index)));
+    key(Qt::Key_Return);
+    ++presses;
+  });
   EXPECT_EQ(messages, std::vector<QString>{"TESSORO: You got it !"});
-  EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
-  act(game.form.NewPuz, "Press");
+  EXPECT_TRUE(last.endsWith("is correct. You got it !")) << last.toStdString();
+  EXPECT_EQ(heard("say").size(), presses - 1) << "the last is read out with the box";
+  key(Qt::Key_Space);
+  EXPECT_EQ(heard("say"), QStringList("The puzzle is over"));
+  key(Qt::Key_Tab);
+  key(Qt::Key_Space);
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
+  EXPECT_TRUE(heard("say").value(0).startsWith("Puzzle 2. Corners: top left "));
 }
 
 }  // namespace tessoro::test

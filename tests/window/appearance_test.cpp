@@ -5,7 +5,14 @@
 namespace tessoro::test {
 
 /// These run again at each scale factor, as set by the environment.
-using AppearanceTest = WindowTest;
+struct AppearanceTest : WindowTest {
+  /// The client area in pixels of the screen.
+  QImage picture() const {
+    QImage image = view.grab().toImage();
+    image.setDevicePixelRatio(1);
+    return image;
+  }
+};
 
 TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   constexpr std::array<int, gridSide> lefts{46, 76, 106, 136, 164, 194, 224};
@@ -13,8 +20,7 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   const double scale = view.devicePixelRatioF();
   const int line = static_cast<int>(scale);
   const QMargins border(line, line, line, line);
-  QImage image = view.grab().toImage();
-  image.setDevicePixelRatio(1);
+  const QImage image = picture();
   QImage expected = image;
   QPainter painter(&expected);
   for (int index = 1; index <= gridCells; ++index) {
@@ -29,6 +35,25 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   }
   painter.end();
   EXPECT_TRUE(image == expected);
+}
+
+TEST_F(AppearanceTest, TheKeysBringARingAndTheMouseTakesItAway) {
+  const double scale = view.devicePixelRatioF();
+  const int line = static_cast<int>(scale);
+  const QImage plain = picture();
+  QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+  QImage ringed = plain;
+  QPainter painter(&ringed);
+  QRect rect(QPoint(46, 86) * scale, QPoint(76, 116) * scale - QPoint(1, 1));
+  for (const QColor colour : {Qt::black, Qt::yellow, Qt::yellow, Qt::black}) {
+    const QRect inside = rect - QMargins(line, line, line, line);
+    for (const QRect& edge : QRegion(rect) - inside) painter.fillRect(edge, colour);
+    rect = inside;
+  }
+  painter.end();
+  EXPECT_TRUE(picture() == ringed) << "over its neighbour below too, which lies in front";
+  click(cell(9));  // a hole: nothing is pressed
+  EXPECT_TRUE(picture() == plain);
 }
 
 /// The greatest contrast between two pixels of the image.
@@ -54,7 +79,7 @@ TEST_F(AppearanceTest, TextIsReadableInLightAndDark) {
   }
   for (const QPalette& theme : {QApplication::palette(), QPalette(QColor(53, 53, 53))}) {
     window.setPalette(theme);
-    const QImage image = view.grab().toImage();
+    const QImage image = picture();
     for (const platform::Control* text : texts) {
       const QPointF middle = QPointF(middleOf(*text)) * view.devicePixelRatioF();
       const QRect inside(middle.toPoint() - QPoint(9, 6), QSize(18, 12));

@@ -47,7 +47,10 @@ struct WindowTest : testing::Test {
   }
   ~WindowTest() override { theDesktop->close(); }
 
-  static void settle() { QApplication::processEvents(); }
+  /// Has all events processed, also those that others bring about.
+  static void settle() {
+    for (int round = 0; round < 3; ++round) QApplication::processEvents();
+  }
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
   /// The middle of a control in the client area, where the frame begins at (4, 4).
@@ -55,8 +58,11 @@ struct WindowTest : testing::Test {
     const platform::Place& place = control.place;
     return {4 + (place.left + place.width / 2) / 15, 4 + (place.top + place.height / 2) / 15};
   }
+  QPoint inWindow(const platform::Control& control) const {
+    return view.mapTo(&window, middleOf(control));
+  }
   void click(const platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(&view, button, {}, middleOf(control));
+    QTest::mouseClick(window.windowHandle(), button, {}, inWindow(control));
   }
   void choose(const QString& command) {
     menu.at(command)->trigger();

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "app/form1.h"
+#include "board/puzzle_state.h"
+#include "platform/desktop.h"
+#include "solver/solution_search.h"
+
+namespace tessoro {
+
+/// Tells players who do not see the board what each press and command has changed: one sentence
+/// each, as short as can be, since they hear it a hundred times in a puzzle.
+class Narrator {
+ public:
+  using Sentence = std::function<std::string()>;
+
+  Narrator(const Form1& form, const PuzzleState& state, const SolutionSearch& search,
+           platform::Desktop& desktop);
+
+  /// Runs the handler of an event, and announces its outcome at its end, or earlier when a message
+  /// box comes up. The sentence is put together only then; an empty one is not announced.
+  void narrate(const std::function<void()>& handler, Sentence outcome);
+
+  /// What a press on the cell will have changed since now, or why it has not.
+  Sentence outcomeOfPress(int cell) const;
+  /// Announces why a press on the cell, which is disabled, does nothing; or one on `Solveit`.
+  void explainRefusal(int cell) const;
+  void explainGreyedButton() const { desktop_.announce("Press a corner first"); }
+
+  /// Announces the first puzzle.
+  void announceStart() const { desktop_.announce(corners()); }
+
+  // The outcomes of the commands.
+  std::string newPuzzle() const;
+  std::string solvedPuzzle() const;
+  std::string randomStart() const;
+  std::string solutionShown() const;
+  std::string modeSwitched() const;
+
+ private:
+  /// What the board shows, as far as it is heard.
+  struct Heard {
+    std::array<std::string, gridCells + 1> captions;  ///< of cells 1..49
+    std::array<bool, 5> right{};                      ///< whether corners 1..4 are
+  };
+
+  Heard heard() const;
+  std::string corners() const;
+  std::string changesSince(const Heard& before) const;
+  void announceOutcome();
+
+  const Form1& form_;
+  const PuzzleState& state_;
+  const SolutionSearch& search_;
+  platform::Desktop& desktop_;
+  Sentence outcome_;  ///< not announced yet
+};
+
+}  // namespace tessoro

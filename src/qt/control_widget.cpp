@@ -1,0 +1,176 @@
+#include "qt/control_widget.h"
+
+#include <QAccessibleWidget>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "platform/cell_pane.h"
+#include "qt/convert.h"
+#include "qt/form_view.h"
+#include "qt/modal.h"
+
+namespace qt {
+namespace {
+
+using platform::Accessible;
+using platform::CellPane;
+using platform::MouseButton;
+
+MouseButton toMouseButton(Qt::MouseButton button) {
+  switch (button) {
+    case Qt::LeftButton:
+      return MouseButton::left;
+    case Qt::RightButton:
+      return MouseButton::right;
+    case Qt::MiddleButton:
+      return MouseButton::middle;
+    default:
+      return MouseButton::other;
+  }
+}
+
+std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
+  return static_cast<std::int16_t>((modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) +
+                                   (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
+                                   (modifiers.testFlag(Qt::AltModifier) ? 4 : 0));
+}
+
+/// The keys that stand for a press of a mouse button.
+constexpr std::array<std::pair<int, MouseButton>, 6> pressingKeys{
+    {{Qt::Key_Space, MouseButton::left},
+     {Qt::Key_Return, MouseButton::left},
+     {Qt::Key_Enter, MouseButton::left},
+     {Qt::Key_Plus, MouseButton::left},
+     {Qt::Key_Minus, MouseButton::right},
+     {Qt::Key_Backspace, MouseButton::right}}};
+
+QAccessible::Role toRole(Accessible::Role role) {
+  switch (role) {
+    case Accessible::Role::button:
+      return QAccessible::Button;
+    case Accessible::Role::image:
+      return QAccessible::Graphic;
+    case Accessible::Role::label:
+    case Accessible::Role::none:
+      break;
+  }
+  return QAccessible::StaticText;
+}
+
+/// The control as assistive technology meets it.
+class AccessibleControl final : public QAccessibleWidget {
+ public:
+  explicit AccessibleControl(ControlWidget& control)
+      : QAccessibleWidget(&control, toRole(control.accessible().role)), control_(control) {}
+
+  /// The widget is never disabled, since disabled controls can be read as well.
+  QAccessible::State state() const override {
+    QAccessible::State state = QAccessibleWidget::state();
+    state.disabled = !control_.takesInput();
+    return state;
+  }
+  QString text(QAccessible::Text kind) const override {
+    return kind == QAccessible::Name ? toQString(control_.accessible().name()) : QString();
+  }
+
+  QStringList actionNames() const override {
+    QStringList names;
+    if (control_.takesInput() && control_.isVisible()) {
+      for (const Accessible::Action& action : control_.accessible().actions) {
+        names += toQString(action.name);
+      }
+    }
+    return names + QAccessibleWidget::actionNames();
+  }
+  void doAction(const QString& name) override {
+    for (const Accessible::Action& action : control_.accessible().actions) {
+      if (toQString(action.name) == name) return control_.pressLater(action.button);
+    }
+    QAccessibleWidget::doAction(name);
+  }
+
+ private:
+  ControlWidget& control_;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+  auto* control = dynamic_cast<ControlWidget*>(object);
+  return control == nullptr ? nullptr : new AccessibleControl(*control);
+}
+
+}  // namespace
+
+ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place, FormView& view)
+    : QWidget(&view), control_(control), place_(place), view_(view) {
+  // The view draws, also where this is shown or hidden.
+  setUpdatesEnabled(false);
+  setGeometry(pixelRect(place));
+  if (accessible().inGrid) {
+    setFocusPolicy(Qt::ClickFocus);  // the view lets Tab reach one of the grid
+  } else if (accessible().role == Accessible::Role::button) {
+    setFocusPolicy(Qt::StrongFocus);
+  }
+}
+
+CellPane* ControlWidget::cell() const {
+  auto* const* cell = std::get_if<CellPane*>(&control_);
+  return cell == nullptr ? nullptr : *cell;
+}
+
+void ControlWidget::press(MouseButton button) {
+  CellPane* pressed = cell();
+  if (pressed == nullptr) return;
+  pressed->press({.button = button});
+  pressed->release(button, true);
+}
+
+void ControlWidget::pressLater(MouseButton button) {
+  const auto perform = [this, button] {
+    if (!isBlocked(*this)) press(button);
+  };
+  QMetaObject::invokeMethod(this, perform, Qt::QueuedConnection);
+}
+
+void ControlWidget::mousePressEvent(QMouseEvent* event) {
+  view_.setKeysUsed(false);
+  // While one button is held down, the others come here wherever they are pressed.
+  if (cell() == nullptr || !rect().contains(event->position().toPoint())) return;
+  cell()->press({toMouseButton(event->button()), shiftState(event->modifiers()),
+                 event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
+}
+
+void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (cell() == nullptr) return;
+  cell()->release(toMouseButton(event->button()), rect().contains(event->position().toPoint()));
+}
+
+void ControlWidget::keyPressEvent(QKeyEvent* event) {
+  const Qt::KeyboardModifiers others = ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  const auto* found = std::find_if(pressingKeys.begin(), pressingKeys.end(),
+                                   [&](const auto& it) { return it.first == event->key(); });
+  if ((event->modifiers() & others) != 0) {
+    event->ignore();
+  } else if (found != pressingKeys.end()) {
+    view_.setKeysUsed(true);
+    if (!event->isAutoRepeat()) press(found->second);  // a button held down does not repeat either
+  } else if (!accessible().inGrid || !view_.moveFocus(*this, event->key())) {
+    event->ignore();
+  }
+}
+
+void ControlWidget::focusInEvent(QFocusEvent* /*event*/) {
+  view_.focusMoved();
+}
+
+void ControlWidget::focusOutEvent(QFocusEvent* /*event*/) {
+  view_.focusMoved();
+}
+
+void installAccessibleControls() {
+  QAccessible::installFactory(makeInterface);
+}
+
+}  // namespace qt

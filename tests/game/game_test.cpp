@@ -1,0 +1,205 @@
+#include <iostream>
+#include <random>
+
+#include "fixture.h"
+
+namespace tessoro::test {
+
+using enum platform::MouseButton;
+
+TEST_F(GameTest, APuzzleFromItsFirstMoveToTheNextPuzzle) {
+  const std::string fresh =
+      "; Get corner numbers right; New Puzzle\nSet a Puzzle for computer to solve:    \n"
+      "g7_._._._. =g1" +
+      emptyRows + "g3_. ._. . =g8";
+  EXPECT_EQ(look(), "Puzzle Number  1" + fresh);
+  press(17);
+  EXPECT_EQ(look(),
+            "Puzzle Number  1; Get corner numbers right; New Puzzle\n"
+            "Set a Puzzle for computer to solve: :) g1 g3 g8\n"
+            "g7_._._._. =b?\n_.#._.#._.#._.\n_._._1_._. = ?\n_.#._.#._.#._.\n_._._._._. = ?\n"
+            " =#. =#. =#. =\nb?_. ?_. ? =b?");
+  game.moves.GridDisp_MouseDown(50, {});
+  EXPECT_EQ(caption(50) + caption(0), "7") << "cell 50 is not of the grid, cell 0 out of sight";
+  std::string stepped;
+  for (const auto button : {left, right, right, right, middle, other}) {
+    press(17, button);
+    press(18, button);
+    stepped += caption(17) + caption(18) + " ";
+  }
+  EXPECT_EQ(stepped, "2+ 1- 9* 8+ 9- 1* ");
+
+  for (int k = 1; k <= 16; ++k) {
+    turnTo(operatorCells[k], state.SolOperators[k]);
+    if (numberCells[k] != 33) turnTo(numberCells[k], state.SolNumbers[k].substr(1));
+  }
+  turnTo(33, "2");
+  EXPECT_EQ(desktop.log, Log{"You got it ! [OK]"});
+  const std::string solved =
+      "; New Puzzle\nSet a Puzzle for computer to solve: :) :) :) :); over\n"
+      "g7_-_7_+_1 =g1" +
+      knownRows + "g3_* 5_- 7 =g8";
+  EXPECT_EQ(look(), "Puzzle Number  1" + solved);
+  press(33);
+  EXPECT_EQ(look(), "Puzzle Number  1" + solved) << "the puzzle is over";
+
+  script = known;
+  clickButton(form.NewPuz);
+  EXPECT_EQ(look(), "Puzzle Number  2" + fresh);
+  press(17);
+  form.ShowSolx.choose();
+  EXPECT_EQ(look(), "Puzzle Number  2" + solved);
+
+  script = "9129315941199999";
+  form.StartSolx.choose();
+  EXPECT_EQ(look(),
+            "Puzzle Number  2; New Puzzle\nSet a Puzzle for computer to solve: :) g1 g3 g8\n"
+            "g7_+_1_+_2 =b?\n_+#._+#._+#._+\n_3_+_1_+_5 = 9\n_+#._+#._+#._+\n_4_+_1_+_1 = 6\n"
+            " =#. =#. =#. =\nb?_+ 3_+ 8 =b?");
+  state.SolNumbers[16].clear();
+  press(17);
+  EXPECT_TRUE(form.RightMess.Visible());
+  EXPECT_FALSE(form.board.NPict[4].Visible()) << "there is nothing to be right";
+}
+
+TEST_F(GameTest, EachMoveFromTheSolutionRecomputesItsLines) {
+  for (int index = 2; index < gridCells; ++index) {
+    if (!cell(index).enabled()) continue;
+    game.solutionDisplay.ShowSolution();
+    state.BoardLocked = false;
+    Invariants invariants(game);
+    press(index);
+    EXPECT_EQ(invariants.broken(index), "") << "after a press on " << index << '\n' << look();
+  }
+}
+
+TEST_F(GameTest, SetAPuzzleFromEnteringToLeaving) {
+  press(3);
+  form.SolveMx.choose();
+  const std::string stating =
+      "\nEnd computer solution mode:    ; no Start a Solution; no Show Solution; ";
+  EXPECT_EQ(look(), "Puzzle Number  1; Click corners to set Puzzle; (Solve Puzzle)" + stating +
+                        "targets 0 0 0 0\nR?_._._._. =R?" + emptyRows + "R?_. ._. . =R?");
+  press(3);  // no corner, but a press
+  for (const int corner : {1, 7, 43}) press(corner, right);
+  const std::string before = look();
+  clickButton(form.Solveit);
+  form.Solveit.press({.button = right});
+  EXPECT_EQ(desktop.log, (Log{"set corner numbers first [OK]", "Help Here [OK]"}));
+  EXPECT_EQ(look() + caption(3), before);
+
+  // The results row 9, 3, 3 can give the 3 asked for, but the results column 9, 9, 9 cannot: every
+  // attempt fails at its last step, and the 501st is not made.
+  turnTo(49, "3");
+  state.TargetTL = state.TargetTR = state.TargetBL = 0;
+  state.PuzzleNo = 32767;
+  cell(3).caption = "5";
+  for (int row = 0; row < 501 * 3; ++row) script += "911";
+  clickButton(form.Solveit);
+  EXPECT_EQ(desktop.log.back(), "Cannot Solve This Time ! [OK]");
+  EXPECT_EQ(script, "911911911");
+  EXPECT_EQ(look(), "Puzzle Number  1; Click corners to set Puzzle; Solve Puzzle" + stating +
+                        "targets 0 0 0 3\nR9_._._._. =R9" + emptyRows + "R9_. ._. . =R3");
+  EXPECT_EQ(state.PuzzleNo, 32767);
+
+  for (int k = 1; k <= 4; ++k) turnTo(CornerCells[k], std::string(1, "7138"[k - 1]));
+  script = "9" + known.substr(1);  // the first is drawn for nothing
+  clickButton(form.Solveit);
+  EXPECT_EQ(look(), "Puzzle Number  1; Click corners to set Puzzle; (Solve Puzzle)" + stating +
+                        "over; targets 7 1 3 8\nR7_-_7_+_1 =R1" + knownRows + "R3_* 5_- 7 =R8");
+  press(49);
+  form.SolveMx.choose();
+  const std::string after =
+      "Puzzle Number  1; New Puzzle\nSet a Puzzle for computer to Solve:    ; over\n"
+      "g7_-_7_+_1 =g1" +
+      knownRows + "g3_* 5_- 7 =g9";
+  EXPECT_EQ(look(), after);
+  for (const int index : {1, 3, 49}) press(index);
+  EXPECT_EQ(look(), after) << "the puzzle is over, and the corners are not pressable again";
+  form.SolveMx.choose();
+  form.SolveMx.choose();
+  EXPECT_TRUE(state.BoardLocked) << "also without a search";
+}
+
+TEST_F(GameTest, HelpAboutAndPrintAlsoWhileASearchRuns) {
+  desktop.onYield = [this] {
+    for (const auto* item : {&form.Helpx, &form.Aboutx, &form.PrintX}) item->choose();
+    EXPECT_THROW(form.Exitx.choose(), ProgramEnded);
+    EXPECT_THROW(form.unload(), ProgramEnded);
+    desktop.onYield = [] {};
+  };
+  for (const int number : {1, 2, 32766}) {
+    state.PuzzleNo = static_cast<std::int16_t>(number);
+    script = known;
+    clickButton(form.NewPuz);
+  }
+  desktop.answer = platform::Desktop::Answer::yes;
+  form.PrintX.choose();
+  std::string printed;
+  for (const auto& line : desktop.log) printed += line + "\n";
+  const auto slot = [](const std::string& no) {
+    return "     Puzzle No " + no + std::string(28, ' ') + "Solution to Puzzle No " + no + R"(
+     +---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  
+     | 7 |   |   |   |   | = | 1 |          | 7 | - | 7 | + | 1 | = | 1 |  
+     |---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  
+     |   |///|   |///|   |///|   |          | + |///| + |///| + |///| * |  
+     |---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  
+     |   |   |   |   |   | = |   |          | 5 | + | 3 | - | 4 | = | 4 |  
+     |---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  
+     |   |///|   |///|   |///|   |          | - |///| - |///| + |///| * |  
+     |---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  
+     |   |   |   |   |   | = |   |          | 9 | - | 5 | - | 2 | = | 2 |  
+     |---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  
+     | = |///| = |///| = |///| = |          | = |///| = |///| = |///| = |  
+     |---|---|---|---|---|---|---|          |---|---|---|---|---|---|---|  
+     | 3 |   |   |   |   | = | 8 |          | 3 | * | 5 | - | 7 | = | 8 |  
+     +---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  
+)";
+  };
+  const std::string blank = std::string(75, ' ') + "\n";
+  const std::string between = blank + blank + blank;
+  EXPECT_EQ(printed,
+            "Puzzle Number  2\nqaviro.hlp\n3\nAbout Tessoro\nPrint Puzzle No(s): 1 [Yes] "
+            "[No]\nPrint Puzzle No(s): 32767, 2, 3 [Yes] [No]\n"
+            "Courier\n12.000000\n\n\n\n\n" +
+                slot("32767") + between + slot("2") + between + slot("3") + blank + "end\n");
+}
+
+using RandomPlayerTest = GameTest;
+
+/// Presses anything and chooses any command at any time, also while a search runs, under a clock
+/// that stands still or jumps. TESSORO_SEED plays the same again, TESSORO_EVENTS longer.
+TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
+  const unsigned seed = fromEnvironment("TESSORO_SEED", std::random_device{}());
+  std::cout << "TESSORO_SEED=" << seed << '\n';
+  std::mt19937 random(seed);
+  const auto below = [&](unsigned end) { return static_cast<int>(random() % end); };
+  int pressed = 0;
+  const auto event = [&] {
+    if (below(50) == 0) desktop.tick = below(2) * (below(2000) - 1000.5);
+    if (const int kind = game.search.underWay() ? 7 + below(3) : below(10); kind < 8) {
+      pressed = below(boardCells);
+      press(pressed, std::array{left, right, middle}.at(below(3)));
+    } else if (kind == 8) {
+      clickButton(below(2) == 0 ? form.NewPuz : form.Solveit);
+    } else {
+      form.Gamex.items[below(10)]->choose();  // anything but Exit
+    }
+  };
+  desktop.onYield = [&] {
+    const std::string before = look();
+    if (below(3) == 0) event();
+    pressed = 0;
+    EXPECT_EQ(look(), before) << "a running search is left alone";
+  };
+  Invariants invariants(game);
+  for (unsigned events = fromEnvironment("TESSORO_EVENTS", 200000); events > 0; --events) {
+    pressed = 0;
+    event();
+    EXPECT_EQ(invariants.broken(pressed), "");
+    ASSERT_FALSE(HasFailure()) << look() << '\n' << events << " events were left";
+    desktop.log.clear();
+  }
+}
+
+}  // namespace tessoro::test

@@ -1,0 +1,70 @@
+#include <array>
+#include <cmath>
+
+#include "fixture.h"
+#include "rules/eval_line.h"
+
+namespace tessoro::test {
+
+TEST(EvalLineTest, MultipliesFirstAndOtherwiseGoesFromTheLeft) {
+  for (const std::string line :
+       {"2+3+4=9", "9-3-4=2", "2+3-4=1", "2-3+4=3", "9*9*9=729", "2*3+4=10", "2*3-4=2", "1-9*9=-80",
+        "2+3*4=14", "0+5+5=-1", "5+0+5=-1", "5+5*0=-1", "5?5*5=-1", "5+5 5=-1"}) {
+    const auto number = [&](int at) { return static_cast<std::int16_t>(line[at] - '0'); };
+    EXPECT_EQ(EvalLine(number(0), number(2), number(4), line.substr(1, 1), line.substr(3, 1)),
+              std::stoi(line.substr(6)));
+  }
+  EXPECT_EQ(EvalLine(300, 300, 32767, "*", "-"), -1) << "more than 16 bits";
+}
+
+TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
+  const std::vector<std::pair<std::string, int>> captions{
+      {"", 0},    {" ", 0},    {"?", 0},     {"-", 0},   {"0", 0},   {":", 0},        {"1", 1},
+      {"9", 9},   {" 7", 7},   {"  6", 6},   {"2.5", 2}, {"3.5", 4}, {"inf", 0},      {"5?", 5},
+      {"1e3", 1}, {"-3x", -3}, {"789", 789}, {"+4", 4},  {"+-3", 0}, {"99999", 32767}};
+  for (const auto& [caption, number] : captions) EXPECT_EQ(readNumber(caption), number) << caption;
+}
+
+TEST_F(GameTest, ALineTakesTheFirstPairThatFits) {
+  SolutionAttempt attempt(state, *this);
+  state.TargetTR = 8;
+  script = "999421";
+  attempt.run();
+  std::string taken = state.SolNumbers[1] + state.SolOperators[1] + state.SolOperators[2];
+  for (std::size_t first = 1; first <= 9; ++first) {
+    attempt.RowPairValue.fill(10);  // equal, but no digit
+    attempt.ColPairValue.fill(10);
+    for (std::size_t k = first; k <= 9; ++k) attempt.RowPairValue[k] = 9;
+    attempt.ColPairValue[10 - first] = 9;
+    attempt.MatchGrandTotal();
+    taken += ' ';
+    for (const int k : {7, 8, 15, 16}) taken += state.SolOperators[k];
+  }
+  EXPECT_EQ(taken, " 4** ++** +-*- ---* -+*+ +*+* *+-+ -*-- *-+- **++");
+}
+
+/// The clock is the only seed, so that the outcome is the same in every run.
+TEST_F(GameTest, DigitsHaveTheirDistributionWhateverTheClockDoes) {
+  std::string start;
+  for (const double tick : {1e-6, 0.0, 0.125, -3.5}) {
+    desktop.clock = 30000;
+    desktop.tick = tick;
+    ReseededDigits fresh(desktop);
+    std::string drawn = "1";
+    std::array<int, 100> pairs{};
+    for (int i = 0; i < 324000; ++i) {
+      const int last = drawn.back() - '0';
+      drawn += static_cast<char>('0' + fresh.draw());
+      ++pairs.at(10 * last + drawn.back() - '0');
+    }
+    constexpr std::array<int, 10> share{0, 1, 2, 2, 2, 2, 2, 2, 2, 3};  // of 18
+    for (int pair = 0; pair < 100; ++pair) {
+      const int expected = 1000 * share[pair / 10] * share[pair % 10];
+      EXPECT_NEAR(pairs[pair], expected, 4 * std::sqrt(expected)) << pair << ", tick " << tick;
+    }
+    EXPECT_NE(drawn.substr(0, 40), start) << "another time of day gives other digits";
+    start = drawn.substr(0, 40);
+  }
+}
+
+}  // namespace tessoro::test

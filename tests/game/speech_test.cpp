@@ -1,0 +1,66 @@
+#include "fixture.h"
+
+namespace tessoro::test {
+
+struct SpeechTest : GameTest {
+  /// What has been spoken since the last call.
+  Log heard() { return std::exchange(desktop.said, {}); }
+};
+
+TEST_F(SpeechTest, EveryPressHasItsSentence) {
+  const auto right = platform::MouseButton::right;
+  game.narrator.announceStart();
+  EXPECT_EQ(heard(), Log{"Corners: top left 7, top right 1, bottom left 3, bottom right 8"});
+  for (const int index : {5, 2, 2, 4}) press(index);
+  for (int presses = 0; presses < 3; ++presses) press(3, right);
+  EXPECT_EQ(heard(), (Log{"1, no line has a value yet, corners to get right: 3", "plus", "minus",
+                          "plus", "9", "8", "7, row 1 is 1, top right is correct"}));
+  press(5);
+  press(5, right);
+  for (const int index : {1, 6, 7}) press(index);
+  EXPECT_EQ(heard(),
+            (Log{"2, row 1 is 2, top right is wrong", "1, row 1 is 1, top right is correct",
+                 "This number is given", "Only numbers and operators are set",
+                 "Only numbers and operators are set"}));
+  form.ShowSolx.choose();
+  press(33);
+  EXPECT_EQ(heard(), (Log{"The solution is shown, and the puzzle is over", "The puzzle is over"}));
+  state.BoardLocked = false;
+  for (int presses = 0; presses < 3; ++presses) press(46);
+  EXPECT_EQ(heard(), (Log{"times, total has no value, bottom right is wrong", "plus",
+                          "minus, total is 8, bottom right is correct", "You got it ! [OK]"}));
+  script = "9129315941199999";
+  form.StartSolx.choose();
+  press(4);
+  EXPECT_EQ(heard(),
+            (Log{"Random start, top left is correct, top right has no value, target 1, bottom left "
+                 "has no value, target 3, bottom right has no value, target 8",
+                 "minus, row 1 is 6"}));
+}
+
+TEST_F(SpeechTest, CommandsTellWhatThereIsToKnow) {
+  script = known;
+  clickButton(form.NewPuz);
+  EXPECT_EQ(heard(),
+            Log{"Puzzle 2. Corners: top left 7, top right 1, bottom left 3, bottom right 8"});
+  form.SolveMx.choose();
+  clickButton(form.Solveit);
+  press(3);
+  clickButton(form.Solveit);
+  EXPECT_EQ(heard(),
+            (Log{"Press each corner to its number, then press Solve Puzzle", "Press a corner first",
+                 "Only corners are set in this mode", "set corner numbers first [OK]"}));
+  for (const int corner : {1, 7, 43, 49}) press(corner, platform::MouseButton::right);
+  state.TargetTL = state.TargetTR = state.TargetBL = 0;
+  state.TargetBR = 3;
+  for (int row = 0; row < 500 * 3; ++row) script += "911";
+  clickButton(form.Solveit);
+  state.TargetBR = 0;
+  script = known;
+  clickButton(form.Solveit);
+  form.SolveMx.choose();
+  EXPECT_EQ(heard(), (Log{"9", "9", "9", "9", "Cannot Solve This Time ! [OK]", "Solved as puzzle 3",
+                          "Back from setting puzzles. Press New Puzzle to play on"}));
+}
+
+}  // namespace tessoro::test
