@@ -1,6 +1,7 @@
 #include "app/narrator.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "app/spoken_board.h"
@@ -11,6 +12,8 @@ namespace {
 
 /// A result that is empty until the first move has every line worked out; corners never are.
 constexpr int plainResult = 21;
+
+constexpr std::string_view onlyCorners = "Only corners are set in this mode";
 
 bool isCorner(int cell) {
   return std::find(CornerCells.begin() + 1, CornerCells.end(), cell) != CornerCells.end();
@@ -59,7 +62,7 @@ void Narrator::announceOutcome() {
 Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
   return [this, cell, before = heard(), wasOver = state_.BoardLocked] {
     const std::string shown = spoken(form_.board.GridDisp[cell].caption());
-    if (state_.SolveMode) return isCorner(cell) ? shown : "Only corners are set in this mode";
+    if (state_.SolveMode) return isCorner(cell) ? shown : std::string(onlyCorners);
     return wasOver ? "The puzzle is over" : shown + changesSince(before);
   };
 }
@@ -94,7 +97,9 @@ std::string Narrator::changesSince(const Heard& before) const {
 
 void Narrator::explainRefusal(int cell) const {
   const bool given = roleOf(cell) == CellRole::number;
-  desktop_.announce(given ? "This number is given" : "Only numbers and operators are set");
+  desktop_.announce(state_.SolveMode ? onlyCorners
+                    : given          ? "This number is given"
+                                     : "Only numbers and operators are set");
 }
 
 std::string Narrator::corners() const {

@@ -51,6 +51,13 @@ void Announcer::accessibilityActiveChanged(bool /*active*/) {
   windowActivated();
 }
 
+void Announcer::tellFocus() const {
+  QWidget* focused = window_.focusWidget();
+  if (sentence_.isEmpty() || focused == nullptr) return;
+  QAccessibleEvent event(focused, QAccessible::Focus);
+  QAccessible::updateAccessibility(&event);
+}
+
 void Announcer::introduce(const QString& text) {
   if (readsNewNames) return announce(text);
   window_.setAccessibleDescription(text);

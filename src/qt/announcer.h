@@ -22,6 +22,9 @@ class Announcer final : public QAccessible::ActivationObserver {
   /// Has the text spoken when the window is shown. A notification would make older screen readers
   /// name a dialog twice; newer ones would speak a description twice.
   void introduce(const QString& text);
+  /// Tells where the focus is if a sentence waits to be spoken: a menu has closed, which the
+  /// toolkit takes for no change, and the sentence is to come last.
+  void tellFocus() const;
   /// The sentence that has not been spoken yet, for the caller to have it spoken.
   QString takeSentence() { return std::exchange(sentence_, {}); }
 

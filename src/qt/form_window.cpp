@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 
 #include "qt/convert.h"
 #include "qt/form_view.h"
@@ -54,7 +55,9 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
     connect(
         action, &QAction::triggered, this,
         [this, entry] {
-          if (!isBlocked(*this)) entry->choose();
+          if (isBlocked(*this)) return;
+          entry->choose();
+          announcer_.tellFocus();
         },
         Qt::QueuedConnection);
   }
@@ -88,7 +91,10 @@ void FormWindow::openMenu() {
   if (menuBar()->actions().isEmpty()) return;
   QAction* first = menuBar()->actions().first();
   menuBar()->setActiveAction(first);
-  first->menu()->setActiveAction(first->menu()->actions().value(0));
+  const QList<QAction*> items = first->menu()->actions();
+  const auto item = std::ranges::find_if(
+      items, [](const QAction* it) { return it->isEnabled() && !it->isSeparator(); });
+  if (item != items.end()) first->menu()->setActiveAction(*item);
 }
 
 void FormWindow::changeEvent(QEvent* event) {
