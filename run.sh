@@ -4,6 +4,10 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . packaging/install-packages.sh
 
+if ! mkdir -p build 2>/dev/null || [[ ! -w build ]]; then
+  echo "The game is built in $PWD/build, which cannot be written: copy the sources to where it can." >&2
+  exit 1
+fi
 # shellcheck disable=SC2119
 install_packages
 if [[ ! -e build/release/tessoro ]]; then echo 'Building the game.' >&2; fi

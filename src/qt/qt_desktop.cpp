@@ -42,7 +42,7 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const
   const auto* const found = std::ranges::find_if(
       obstacles, [&](const auto& obstacle) { return said.contains(obstacle.first); });
   std::cerr << qPrintable(QCoreApplication::applicationName()) << ": "
-            << (found == obstacles.end() ? qPrintable(said) : found->second) << std::endl;
+            << (found == obstacles.end() ? qPrintable(said) : found->second) << "\n";
   std::_Exit(EXIT_FAILURE);
 }
 

@@ -19,7 +19,7 @@ constexpr std::array<int, 4> cellsOfAllLines{3, 5, 15, 29};
 
 constexpr std::array<int, 6> lineResultCells = [] {
   std::array<int, 6> cells{};
-  std::copy_if(numberCells.begin(), numberCells.end(), cells.begin(), [](int cell) {
+  std::ranges::copy_if(numberCells, cells.begin(), [](int cell) {
     return roleOf(cell) == CellRole::rowResult || roleOf(cell) == CellRole::columnResult;
   });
   return cells;
