@@ -21,6 +21,12 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   const QImage image = picture();
   QImage expected = image;
   QPainter painter(&expected);
+  const auto outline = [&](const QRect& rect, const QBrush& colour) {
+    for (const QRect& edge : QRegion(rect) - (rect - border)) painter.fillRect(edge, colour);
+  };
+  const QRect frame(QPoint(4, 4) * scale, QPoint(297, 305) * scale - QPoint(1, 1));
+  outline(frame.adjusted(line, line, 0, 0), view.palette().light());
+  outline(frame.adjusted(0, 0, -line, -line), view.palette().dark());
   for (int index = 1; index <= gridCells; ++index) {
     const QPoint start = middleOf(cell(index)) - QPoint(15, 15);
     const QRect all(start * scale, (start + QPoint(30, 30)) * scale - QPoint(1, 1));
@@ -33,6 +39,8 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
   }
   painter.end();
   EXPECT_TRUE(image == expected);
+  choose("Set a Puzzle for computer to solve");
+  EXPECT_EQ(view.grab().toImage().pixelColor(QPoint(49, 59) * scale), QColor(128, 0, 0));
 }
 
 TEST_F(AppearanceTest, TheKeysBringARingAndTheMouseTakesItAway) {
@@ -52,6 +60,8 @@ TEST_F(AppearanceTest, TheKeysBringARingAndTheMouseTakesItAway) {
   EXPECT_TRUE(picture() == ringed) << "over its neighbour below too, which lies in front";
   click(cell(9));  // a hole: nothing is pressed
   EXPECT_TRUE(picture() == plain);
+  QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+  EXPECT_TRUE(window.testAttribute(Qt::WA_KeyboardFocusChange)) << "and any key brings it back";
 }
 
 /// The greatest contrast between two pixels of the image.

@@ -26,6 +26,8 @@ TEST_F(WindowTest, AButtonTakesAPressAndAReleaseOnItself) {
   const Cell& hole = cell(9);
   press(button, Qt::LeftButton);
   release(hole, Qt::LeftButton);
+  press(button, Qt::MiddleButton);
+  release(button, Qt::MiddleButton);
   // A second button belongs to where the first went down.
   press(hole, Qt::RightButton);
   press(button, Qt::LeftButton);
@@ -74,6 +76,7 @@ TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
     EXPECT_EQ(box->size(), QSize(317, 97));
     EXPECT_LE(text->document()->size().height(), text->height()) << "nothing is cut";
     EXPECT_EQ(box->focusWidget(), box->findChild<QPushButton*>());
+    EXPECT_EQ(box->focusWidget()->geometry(), QRect(277, 40, 34, 25));
     ++shown;
     if (shown == 1) QTest::keyClick(box, Qt::Key_Return);
     if (shown == 2) {
@@ -92,11 +95,13 @@ TEST_F(WindowTest, HelpIsReadBesideTheGame) {
   ASSERT_NE(help, nullptr);
   auto* text = help->findChild<QTextBrowser*>();
   const int top = text->verticalScrollBar()->value();
+  QAction* back = help->findChild<QToolBar*>()->actions().at(1);
+  EXPECT_FALSE(back->isEnabled());
   onModal = [&](QWidget* box) {
     QTest::keyClick(help->windowHandle(), Qt::Key_Tab);
     QTest::keyClick(help->windowHandle(), Qt::Key_Return);
     EXPECT_GT(text->verticalScrollBar()->value(), top) << "the first link leads on";
-    help->findChild<QToolBar*>()->actions().at(1)->trigger();
+    back->trigger();
     EXPECT_EQ(text->verticalScrollBar()->value(), top) << "and Back leads back";
     box->close();
   };
