@@ -3,7 +3,6 @@
 namespace tessoro::test {
 
 struct SpeechTest : GameTest {
-  /// What has been spoken since the last call.
   Log heard() { return std::exchange(desktop.said, {}); }
 };
 

@@ -11,8 +11,8 @@ namespace tessoro::test {
 /// The game as it is met through a screen reader and the keys: through names, roles, states,
 /// actions and events alone.
 struct AccessibilityTest : WindowTest {
-  /// What clients have been told: "focus NAME", "name NAME", "state NAME", "show NAME", "hide
-  /// NAME", and the sentences that are spoken, as "say SENTENCE".
+  /// What clients have been told: "focus NAME", "name NAME", "StateChanged NAME", "ObjectShow
+  /// NAME", "hide NAME", and the sentences that are spoken, as "say SENTENCE".
   static inline QStringList told;
   QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&view);
 
@@ -33,27 +33,16 @@ struct AccessibilityTest : WindowTest {
   static void hear(QAccessibleEvent* event) {
     const QAccessibleInterface* source = event->accessibleInterface();
     if (source == nullptr) return;
-    const QString name = source->text(QAccessible::Name);
-    const bool sentence = source->role() == QAccessible::Notification;
-    switch (static_cast<int>(event->type())) {
-      case QAccessible::Focus:
-        return told.append("focus " + name);
-      case QAccessible::NameChanged:
-        return told.append("name " + name);
-      case QAccessible::StateChanged:
-        return told.append("state " + name);
-      case QAccessible::ObjectHide:
-        if (!sentence) told.append("hide " + name);
-        return;
-      case QAccessible::ObjectShow:
-        return told.append((sentence ? "say " : "show ") + name);
+    QString kind = qAccessibleEventString(event->type());
+    QString text = source->text(QAccessible::Name);
+    if (source->role() == QAccessible::Notification) kind = kind == "ObjectShow" ? "say" : "";
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-      case QAccessible::Announcement:
-        return told.append("say " + dynamic_cast<QAccessibleAnnouncementEvent*>(event)->message());
-#endif
-      default:
-        return;
+    if (auto* announcement = dynamic_cast<QAccessibleAnnouncementEvent*>(event)) {
+      kind = "say";
+      text = announcement->message();
     }
+#endif
+    told.append(kind + " " + text);
   }
   /// What has been told since the last call, of the kinds that begin so.
   static QStringList heard(const QString& kind) {
@@ -65,10 +54,14 @@ struct AccessibilityTest : WindowTest {
     return matching;
   }
   void key(Qt::Key key) const { QTest::keyClick(window.windowHandle(), key); }
+  static QString focusedName() {
+    return QAccessible::queryAccessibleInterface(QApplication::focusWidget())
+        ->text(QAccessible::Name);
+  }
   /// Presses the key and tells where the focus goes.
   QString focusAfter(Qt::Key pressed) {
     key(pressed);
-    return heard("focus").join("|");
+    return heard("Focus").join("|");
   }
 
   /// What is found at the middle of a control.
@@ -101,10 +94,7 @@ TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
   for (const auto& reading : std::vector<std::string>{
            "Button: " + topLeft + ", row 1 column 1, target " + topLeft +
                ", correct [SetFocus] disabled",
-           "Button: no value, row 1 column 7, target " + topRight + " [SetFocus] disabled",
            "Button: plus, row 1 column 2 [Press/SetFocus]",
-           "Button: empty, row 1 column 3 [Press/Decrease/SetFocus]",
-           "Button: minus, row 1 column 4 [Press/SetFocus]",
            "Button: times, row 3 column 2 [Press/SetFocus]",
            "Button: 9, row 3 column 3 [Press/Decrease/SetFocus]",
            "StaticText: equals, row 3 column 6 [SetFocus] disabled",
@@ -118,8 +108,6 @@ TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
   }
   for (int index = 1; index <= gridCells; ++index) {
     if (roleOf(index) == CellRole::hole) continue;
-    const QString place = QString(", row %1 column %2").arg(rowOf(index)).arg(columnOf(index));
-    EXPECT_TRUE(at(cell(index))->text(QAccessible::Name).contains(place)) << index;
     const QPoint start = view.mapToGlobal(middleOf(cell(index)) - QPoint(15, 15));
     EXPECT_EQ(at(cell(index))->rect(), QRect(start, QSize(30, 30))) << index;
   }
@@ -129,12 +117,11 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   click(cell(17));
   EXPECT_EQ(heard("say"), QStringList("1, no line has a value yet, corners to get right: 3"));
   act(cell(17), "Press");
-  const QStringList names = told.filter("name");
   EXPECT_TRUE(told.contains("say 2"));
-  EXPECT_EQ(names.contains("name 2, row 3 column 3"), QT_VERSION < QT_VERSION_CHECK(6, 8, 0))
+  EXPECT_EQ(told.contains("NameChanged 2, row 3 column 3"), QT_VERSION < QT_VERSION_CHECK(6, 8, 0))
       << "newer screen readers would read out a new name of the focus too";
   act(cell(18), "Press");
-  EXPECT_TRUE(told.contains("name plus, row 3 column 4"));
+  EXPECT_TRUE(told.contains("NameChanged plus, row 3 column 4"));
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList({"2", "plus", "3"}));
   key(Qt::Key_Minus);
@@ -142,10 +129,10 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_EQ(heard("say"), QStringList({"2", "3"}));
 
   choose("Set a Puzzle for computer to solve");
-  EXPECT_TRUE(told.contains("hide New Puzzle") && told.contains("show Solve Puzzle"));
-  EXPECT_TRUE(told.contains("hide top left correct") &&
-              told.contains("hide top right target " + QString::fromStdString(caption(51))));
-  EXPECT_TRUE(told.contains("state no value, row 1 column 1"));
+  EXPECT_TRUE(told.contains("ObjectHide New Puzzle") && told.contains("ObjectShow Solve Puzzle"));
+  EXPECT_TRUE(told.contains("ObjectHide top left correct") &&
+              told.contains("ObjectHide top right target " + QString::fromStdString(caption(51))));
+  EXPECT_TRUE(told.contains("StateChanged no value, row 1 column 1"));
   EXPECT_FALSE(at(cell(1))->state().disabled);
   EXPECT_EQ(heard("say"), QStringList("Press each corner to its number, then press Solve Puzzle"));
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
@@ -155,7 +142,7 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   key(Qt::Key_Escape);
   key(Qt::Key_Tab);
   choose("Set a Puzzle for computer to solve");
-  EXPECT_EQ(heard("focus").last(), "New Puzzle") << "it is where the other button was";
+  EXPECT_EQ(heard("Focus").last(), "New Puzzle") << "it is where the other button was";
 }
 
 TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
@@ -174,7 +161,7 @@ TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "equals, row 3 column 6");
   EXPECT_EQ(focusAfter(Qt::Key_Backtab), "New Puzzle");
   click(cell(33), Qt::RightButton);
-  EXPECT_EQ(heard("focus"), QStringList("empty, row 5 column 5"));
+  EXPECT_EQ(heard("Focus"), QStringList("empty, row 5 column 5"));
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "New Puzzle");
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "9, row 5 column 5") << "the one pressed last";
   for (const Qt::Key opening : {Qt::Key_F10, Qt::Key_Alt}) {
@@ -206,13 +193,6 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
 }
 
 TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
-  const auto walk = [&](Qt::Key arrow, const QString& place) {
-    for (int steps = 0; steps < gridSide; ++steps) {
-      const auto* focused = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
-      if (focused->text(QAccessible::Name).contains(place)) return;
-      key(arrow);
-    }
-  };
   QString last;
   onModal = [this, &last, answer = onModal](QWidget* box) {
     last = box->findChild<QLabel*>("qt_msgbox_label")->accessibleName();
@@ -223,10 +203,15 @@ TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
   };
   qsizetype presses = 0;
   playSolution([&](int index) {
-    walk(Qt::Key_Left, "column 1");
-    walk(rowOf(index) > 3 ? Qt::Key_Down : Qt::Key_Up, QString("row %1 ").arg(rowOf(index)));
-    walk(rowOf(index) > 3 ? Qt::Key_Up : Qt::Key_Down, QString("row %1 ").arg(rowOf(index)));
-    walk(Qt::Key_Right, QString("column %1").arg(columnOf(index)));
+    const QString row = QString("row %1 ").arg(rowOf(index));
+    const QString column = QString("column %1").arg(columnOf(index));
+    for (const auto& [arrow, place] :
+         std::vector<std::pair<Qt::Key, QString>>{{Qt::Key_Left, "column 1"},
+                                                  {Qt::Key_Up, row},
+                                                  {Qt::Key_Down, row},
+                                                  {Qt::Key_Right, column}}) {
+      for (int step = 0; step < gridSide && !focusedName().contains(place); ++step) key(arrow);
+    }
     key(Qt::Key_Return);
     ++presses;
   });

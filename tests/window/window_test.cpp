@@ -4,7 +4,6 @@ namespace tessoro::test {
 
 TEST_F(WindowTest, TheMousePressesWhatItIsOver) {
   EXPECT_EQ(view.size(), QSize(302, 310));
-  EXPECT_GE(view.mapTo(&window, QPoint()).y(), window.menuBar()->height());
   click(cell(17), Qt::RightButton);
   EXPECT_EQ(caption(17), "9");
   click(cell(17), Qt::BackButton);
@@ -16,34 +15,21 @@ TEST_F(WindowTest, TheMousePressesWhatItIsOver) {
 }
 
 TEST_F(WindowTest, AButtonTakesAPressAndAReleaseOnItself) {
-  const auto press = [&](const platform::Control& control, Qt::MouseButton button) {
-    QTest::mousePress(window.windowHandle(), button, {}, inWindow(control));
-  };
-  const auto release = [&](const platform::Control& control, Qt::MouseButton button) {
-    QTest::mouseRelease(window.windowHandle(), button, {}, inWindow(control));
-  };
-  const Cell& button = game.form.NewPuz;
-  const Cell& hole = cell(9);
-  press(button, Qt::LeftButton);
-  release(hole, Qt::LeftButton);
-  press(button, Qt::MiddleButton);
-  release(button, Qt::MiddleButton);
-  // A second button belongs to where the first went down.
-  press(hole, Qt::RightButton);
-  press(button, Qt::LeftButton);
-  release(button, Qt::LeftButton);
-  release(button, Qt::RightButton);
-  press(button, Qt::RightButton);
-  press(hole, Qt::LeftButton);
-  release(button, Qt::LeftButton);
-  release(button, Qt::RightButton);
-  press(cell(17), Qt::LeftButton);
-  press(cell(0), Qt::RightButton);
-  release(cell(0), Qt::RightButton);
-  release(cell(0), Qt::LeftButton);
+  const std::map<QChar, Qt::MouseButton> buttons{
+      {'L', Qt::LeftButton}, {'M', Qt::MiddleButton}, {'R', Qt::RightButton}};
+  const std::map<QChar, const Cell*> places{
+      {'b', &game.form.NewPuz}, {'h', &cell(9)}, {'n', &cell(17)}, {'s', &cell(0)}};
+  // Each step is a mouse button, + for its press or - for its release, and where: over the button
+  // "New Puzzle", a hole, a number, or the spare cell, which is outside the window.
+  for (const QString& step :
+       QString("L+b L-h M+b M-b R+h L+b L-b R-b R+b L+h L-b R-b L+n R+s R-s L-s").split(' ')) {
+    const auto act = step[1] == '+' ? QTest::MousePress : QTest::MouseRelease;
+    QTest::mouseEvent(act, window.windowHandle(), buttons.at(step[0]), {},
+                      inWindow(*places.at(step[2])));
+  }
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
   EXPECT_EQ(caption(17) + caption(0), "1");
-  click(button);
+  click(game.form.NewPuz);
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
 }
 
