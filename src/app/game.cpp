@@ -38,15 +38,22 @@ void Game::connectEvents() {
     cell.refused = [this, index] { narrator.explainRefusal(index); };
   }
   const auto connect = [this, unlessSearching](auto& control, auto handler, auto outcome) {
-    control.click = unlessSearching([this, handler, outcome] {
-      narrator.narrate(handler, [this, outcome] { return (narrator.*outcome)(); });
-    });
+    control.click =
+        unlessSearching([this, handler, outcome] { narrator.narrate(handler, outcome); });
   };
-  connect(form.NewPuz, [this] { newGame.NewPuz_Click(); }, &Narrator::newPuzzle);
-  connect(form.Solveit, [this] { setAPuzzle.Solveit_Click(); }, &Narrator::solvedPuzzle);
-  connect(form.StartSolx, [this] { newGame.StartSolx_Click(); }, &Narrator::randomStart);
-  connect(form.ShowSolx, [this] { solutionDisplay.ShowSolx_Click(); }, &Narrator::solutionShown);
-  connect(form.SolveMx, [this] { setAPuzzle.SolveMx_Click(); }, &Narrator::modeSwitched);
+  connect(form.NewPuz, [this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
+  connect(
+      form.Solveit, [this] { setAPuzzle.Solveit_Click(); },
+      [this] { return narrator.solvedPuzzle(); });
+  connect(
+      form.StartSolx, [this] { newGame.StartSolx_Click(); },
+      [this] { return narrator.randomStart(); });
+  connect(
+      form.ShowSolx, [this] { solutionDisplay.ShowSolx_Click(); },
+      [] { return Narrator::solutionShown(); });
+  connect(
+      form.SolveMx, [this] { setAPuzzle.SolveMx_Click(); },
+      [this] { return narrator.modeSwitched(); });
   form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };
 
   form.Solveit.contextMenu = [this](auto... arguments) {

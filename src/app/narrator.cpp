@@ -120,7 +120,7 @@ std::string Narrator::solvedPuzzle() const {
   return solved ? "Solved as puzzle " + numberText(state_.PuzzleNo) : "";
 }
 
-std::string Narrator::solutionShown() const {
+std::string Narrator::solutionShown() {
   return "The solution is shown, and the puzzle is over";
 }
 

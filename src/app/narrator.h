@@ -40,7 +40,7 @@ class Narrator {
   std::string newPuzzle() const;
   std::string solvedPuzzle() const;
   std::string randomStart() const;
-  std::string solutionShown() const;
+  static std::string solutionShown();
   std::string modeSwitched() const;
 
  private:

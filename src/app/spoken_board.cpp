@@ -24,8 +24,12 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 6> spokenSig
      {OpMinus, "minus"},
      {OpTimes, "times"}}};
 
-const Accessible::Action press{"Press", MouseButton::left};
-const Accessible::Action decrease{"Decrease", MouseButton::right};
+Accessible::Action press() {
+  return {"Press", MouseButton::left};
+}
+Accessible::Action decrease() {
+  return {"Decrease", MouseButton::right};
+}
 
 /// What a cell shows, then its place.
 std::string describe(int index, const Cell& cell) {
@@ -37,10 +41,10 @@ Accessible describedCell(int index, const Cell& cell) {
   const auto name = [index, &cell] { return describe(index, cell); };
   switch (roleOf(index)) {
     case CellRole::number:
-      return {Accessible::Role::button, name, {press, decrease}, true};
+      return {Accessible::Role::button, name, {press(), decrease()}, true};
     case CellRole::rowOperator:
     case CellRole::columnOperator:
-      return {Accessible::Role::button, name, {press}, true};
+      return {Accessible::Role::button, name, {press()}, true};
     case CellRole::equals:
     case CellRole::rowResult:
     case CellRole::columnResult:
@@ -65,7 +69,7 @@ void describeCorner(int k, Board& board) {
     return smiley.Visible() ? words + ", correct" : words;
   };
   // The user sets the corners' numbers when stating a puzzle.
-  cell.accessible = {Accessible::Role::button, name, {press, decrease}, true};
+  cell.accessible = {Accessible::Role::button, name, {press(), decrease()}, true};
   board.GridDisp[OuterCornerCells[k]].accessible = {
       Accessible::Role::label,
       [k, &target] { return cornerName(k) + " target " + target.caption(); },
@@ -75,7 +79,7 @@ void describeCorner(int k, Board& board) {
 }
 
 void describeButton(Cell& button) {
-  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press}};
+  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press()}};
 }
 
 }  // namespace

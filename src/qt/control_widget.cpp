@@ -152,14 +152,13 @@ void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers others = ~(Qt::ShiftModifier | Qt::KeypadModifier);
-  const auto* found = std::find_if(pressingKeys.begin(), pressingKeys.end(),
-                                   [&](const auto& it) { return it.first == event->key(); });
-  if ((event->modifiers() & others) != 0) {
-    event->ignore();
-  } else if (found != pressingKeys.end()) {
+  const bool plain = (event->modifiers() & others) == 0;
+  const auto* found =
+      std::ranges::find(pressingKeys, event->key(), &std::pair<int, MouseButton>::first);
+  if (plain && found != pressingKeys.end()) {
     view_.setKeysUsed(true);
     if (!event->isAutoRepeat()) press(found->second);  // a button held down does not repeat either
-  } else if (!accessible().inGrid || !view_.moveFocus(*this, event->key())) {
+  } else if (!plain || !accessible().inGrid || !view_.moveFocus(*this, event->key())) {
     event->ignore();
   }
 }

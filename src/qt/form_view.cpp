@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <ranges>
 #include <utility>
 
 #include "platform/cell_pane.h"
@@ -41,8 +42,8 @@ bool isWhole(double scale) {
 
 /// The steps to the right and downwards that an arrow key goes; none for other keys.
 QPoint directionOf(int key) {
-  return {(key == Qt::Key_Right) - (key == Qt::Key_Left),
-          (key == Qt::Key_Down) - (key == Qt::Key_Up)};
+  const auto is = [key](Qt::Key arrow) { return key == arrow ? 1 : 0; };
+  return {is(Qt::Key_Right) - is(Qt::Key_Left), is(Qt::Key_Down) - is(Qt::Key_Up)};
 }
 
 }  // namespace
@@ -125,7 +126,7 @@ void FormView::refreshStale() {
   }
   // Only now, so that the focus can pass to what is shown instead.
   for (const std::size_t i : changed) {
-    Item& item = items_[i];
+    const Item& item = items_[i];
     if (item.widget == nullptr) continue;
     if (!item.look.visible) hide(*item.widget);
   }
@@ -249,8 +250,7 @@ void FormView::paintEvent(QPaintEvent* event) {
   std::vector<Piece> pieces;
   const QRegion all = pixelRegion(event->region(), toPixels);
   QRegion left = all;
-  for (auto at = items_.crbegin(); at != items_.crend(); ++at) {
-    const Item& item = *at;
+  for (const Item& item : std::views::reverse(items_)) {
     if (!item.look.visible) continue;
     const QRect rect = pixelRectAt(item.place, scale, origin);
     const QRegion region = left & rect;

@@ -85,7 +85,7 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 /// Waits for the Alt key to come up again with nothing in between. The toolkit does so too, but
 /// only goes to the menu bar, and misses the key while a screen reader listens to the keyboard.
 bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
-  const auto isAlt = [&] { return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt; };
+  const auto isAlt = [&] { return dynamic_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt; };
   const QEvent::Type type = event->type();
   const bool released = type == QEvent::KeyRelease && isAlt();
   if (released || (type == QEvent::KeyPress && !isAlt()) || type == QEvent::MouseButtonPress ||
