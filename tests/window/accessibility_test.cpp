@@ -129,11 +129,11 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_EQ(heard("say"), QStringList({"2", "3"}));
 
   choose("Set a Puzzle for computer to solve");
+  EXPECT_TRUE(told.contains("Focus empty, row 3 column 3")) << "where the menu leaves it";
   EXPECT_TRUE(told.contains("ObjectHide New Puzzle") && told.contains("ObjectShow Solve Puzzle"));
   EXPECT_TRUE(told.contains("ObjectHide top left correct") &&
               told.contains("ObjectHide top right target " + QString::fromStdString(caption(51))));
   EXPECT_TRUE(told.contains("StateChanged no value, row 1 column 1"));
-  EXPECT_FALSE(at(cell(1))->state().disabled);
   EXPECT_EQ(heard("say"), QStringList("Press each corner to its number, then press Solve Puzzle"));
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
   EXPECT_FALSE(menu.at("Start a Solution")->isEnabled());
@@ -157,7 +157,6 @@ TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
     EXPECT_EQ(focused.mid(focused.indexOf("row")), place) << step.toStdString();
   }
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "New Puzzle");
-  EXPECT_EQ(focusAfter(Qt::Key_Down), "");
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "equals, row 3 column 6");
   EXPECT_EQ(focusAfter(Qt::Key_Backtab), "New Puzzle");
   click(cell(33), Qt::RightButton);

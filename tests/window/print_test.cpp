@@ -94,7 +94,6 @@ TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   startServer();
   EXPECT_EQ(print(), asked);
   expectThePage("spool/d00001-001", "612 x 1008 pts");
-  // While a slow server is waited for, the window goes on handling events.
   const QString busy = folder.filePath("busy");
   output("touch", {busy});
   EXPECT_EQ(print({}, [&](auto&) { QFile::remove(busy); }), asked);
