@@ -38,7 +38,8 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   QWidget& window_;
   QString sentence_;  ///< not spoken yet
   bool focusFirst_ = false;
-  QWidget* notification_ = nullptr;  ///< made when first needed
+  /// Made when first needed, which it never is where the toolkit has an event for sentences.
+  [[maybe_unused]] QWidget* notification_ = nullptr;
 };
 
 /// Sets the title of a window. Screen readers that would read it out are not told: a sentence says

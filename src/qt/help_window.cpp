@@ -82,7 +82,6 @@ HelpWindow::HelpWindow() : text_(new HelpText(this, announcer_)) {
   QAction* contents = bar->addAction("Contents");
   connect(contents, &QAction::triggered, this, [this] { showContents(path_); });
   QAction* back = bar->addAction("Back");
-  back->setEnabled(false);
   connect(back, &QAction::triggered, text_, &QTextBrowser::backward);
   connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
   for (QAction* action : {contents, back}) {
