@@ -77,6 +77,7 @@ struct PrintTest : WindowTest {
     const QString facts = output("pdfinfo", {folder.filePath(file)}).simplified();
     EXPECT_TRUE(facts.contains("Title: Tessoro puzzles") && facts.contains("Pages: 1 "));
     EXPECT_TRUE(facts.contains(paper)) << facts.toStdString();
+    EXPECT_TRUE(output("pdffonts", {folder.filePath(file)}).contains("LiberationMono"));
   }
 };
 
@@ -125,6 +126,7 @@ TEST_F(PrintTest, TheSheetStandsWholeOnOnePage) {
     const double last = edges[58 * 3 + 1];
     EXPECT_NEAR(edges[2] - edges[0], 540 * scale, 1);
     EXPECT_NEAR(last - edges[1], 58 * 12 * scale, 1);
+    EXPECT_NEAR(edges[0] + edges[2], QPageSize(paper).size(QPageSize::Point).width(), 1);
     const QSizeF size = QPageSize(paper).size(QPageSize::Point) - QSizeF(17.9, 17.9);
     EXPECT_TRUE(edges[0] > 17.9 && edges[1] > 17.9 && edges[2] < size.width() &&
                 last + 12 * scale < size.height());

@@ -4,6 +4,7 @@ namespace tessoro::test {
 
 TEST_F(WindowTest, TheMousePressesWhatItIsOver) {
   EXPECT_EQ(view.size(), QSize(302, 310));
+  EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
   click(cell(17), Qt::RightButton);
   EXPECT_EQ(caption(17), "9");
   click(cell(17), Qt::BackButton);
