@@ -17,7 +17,7 @@ class Notification final : public QWidget {
   using QWidget::QWidget;
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* notificationInterface(const QString& /*className*/, QObject* object) {
   auto* notification = dynamic_cast<Notification*>(object);
   if (notification == nullptr) return nullptr;
   return new QAccessibleWidget(notification, QAccessible::Notification);
@@ -26,7 +26,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 }  // namespace
 
 Announcer::Announcer(QWidget& window) : window_(window) {
-  QAccessible::installFactory(makeInterface);
+  QAccessible::installFactory(notificationInterface);
   QAccessible::installActivationObserver(this);
   window.installEventFilter(this);
 }

@@ -98,7 +98,7 @@ class AccessibleControl final : public QAccessibleWidget {
   ControlWidget& control_;
 };
 
-QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* controlInterface(const QString& /*className*/, QObject* object) {
   auto* control = dynamic_cast<ControlWidget*>(object);
   return control == nullptr ? nullptr : new AccessibleControl(*control);
 }
@@ -107,7 +107,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place, FormView& view)
     : QWidget(&view), control_(control), place_(place), view_(view) {
-  QAccessible::installFactory(makeInterface);  // once is enough, and the toolkit sees to that
+  QAccessible::installFactory(controlInterface);  // once is enough, and the toolkit sees to that
   // The view draws, also where this is shown or hidden.
   setUpdatesEnabled(false);
   setGeometry(pixelRect(place));

@@ -59,6 +59,7 @@ FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
   QAccessible::installActivationObserver(this);
 }
 
+// A variant of pointers always has a value. NOLINTNEXTLINE(bugprone-exception-escape)
 FormView::~FormView() {
   for (const Item& item : items_) onChange(item.control, nullptr);
   QAccessible::removeActivationObserver(this);
