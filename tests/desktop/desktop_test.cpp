@@ -106,9 +106,7 @@ int main(int argc, char* argv[]) {
       "Xvfb", {"-displayfd", "1", "-screen", "0", "640x480x24", "-nolisten", "tcp"});
   if (!server.waitForReadyRead(10000)) qFatal("Xvfb does not start.");
   qputenv("DISPLAY", ":" + server.readLine().trimmed());
-  qunsetenv("QT_QPA_PLATFORM");
-  qunsetenv("WAYLAND_DISPLAY");
-  qunsetenv("XDG_SESSION_TYPE");
+  for (auto* it : {"QT_QPA_PLATFORM", "WAYLAND_DISPLAY", "XDG_SESSION_TYPE"}) qunsetenv(it);
   qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
   const QGuiApplication client(argc, argv);
   return RUN_ALL_TESTS();

@@ -14,13 +14,13 @@ struct AccessibilityTest : WindowTest {
   /// What clients have been told: "focus NAME", "name NAME", "StateChanged NAME", "ObjectShow
   /// NAME", "hide NAME", and the sentences that are spoken, as "say SENTENCE".
   static inline QStringList told;
+  static constexpr bool announces = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
   QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&view);
 
   AccessibilityTest() {
     setListening(true);
     QAccessible::installUpdateHandler(hear);
-    settle();
-    told.clear();
+    EXPECT_TRUE(heard("say").endsWith("Welcome")) << "said before there was a window";
   }
   ~AccessibilityTest() override {
     QAccessible::installUpdateHandler(nullptr);
@@ -89,8 +89,7 @@ TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
     readings.insert(text.toStdString());
   }
   EXPECT_EQ(readings.size(), 40U + 4 + 4 + 2 + 2) << "no holes; targets, faces, labels, buttons";
-  const std::string topLeft = caption(50);
-  const std::string topRight = caption(51);
+  const std::string topLeft = caption(50), topRight = caption(51);
   for (const auto& reading : std::vector<std::string>{
            "Button: " + topLeft + ", row 1 column 1, target " + topLeft +
                ", correct [SetFocus] disabled",
@@ -118,14 +117,13 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_EQ(heard("say"), QStringList("1, no line has a value yet, corners to get right: 3"));
   act(cell(17), "Press");
   EXPECT_TRUE(told.contains("say 2"));
-  EXPECT_EQ(told.contains("NameChanged 2, row 3 column 3"), QT_VERSION < QT_VERSION_CHECK(6, 8, 0))
+  EXPECT_NE(told.contains("NameChanged 2, row 3 column 3"), announces)
       << "newer screen readers would read out a new name of the focus too";
   act(cell(18), "Press");
   EXPECT_TRUE(told.contains("NameChanged plus, row 3 column 4"));
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList({"2", "plus", "3"}));
-  key(Qt::Key_Minus);
-  key(Qt::Key_Plus);
+  for (const auto it : {Qt::Key_Minus, Qt::Key_Plus}) key(it);
   EXPECT_EQ(heard("say"), QStringList({"2", "3"}));
 
   choose("Set a Puzzle for computer to solve");
@@ -136,11 +134,10 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_TRUE(told.contains("StateChanged no value, row 1 column 1"));
   EXPECT_EQ(heard("say"), QStringList("Press each corner to its number, then press Solve Puzzle"));
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
-  EXPECT_FALSE(menu.at("Start a Solution")->isEnabled());
+  EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.contains("-"));
   key(Qt::Key_F10);
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
-  key(Qt::Key_Escape);
-  key(Qt::Key_Tab);
+  for (const auto it : {Qt::Key_Escape, Qt::Key_Tab}) key(it);
   choose("Set a Puzzle for computer to solve");
   EXPECT_EQ(heard("Focus").last(), "New Puzzle") << "it is where the other button was";
 }
@@ -165,7 +162,6 @@ TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "9, row 5 column 5") << "the one pressed last";
   for (const Qt::Key opening : {Qt::Key_F10, Qt::Key_Alt}) {
     key(opening);
-    settle();
     ASSERT_NE(QApplication::activePopupWidget(), nullptr) << opening;
     QApplication::activePopupWidget()->close();
   }
@@ -174,7 +170,7 @@ TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
 TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
   QString about;
   onModal = [&](QWidget* box) {
-    about = box->accessibleDescription() + heard("say").join("");
+    about = announces ? heard("say").join("") : box->accessibleDescription();
     box->close();
   };
   choose("About");
@@ -183,9 +179,7 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
   QWidget* help = QApplication::activeWindow();
   EXPECT_EQ(help->windowTitle(), "Tessoro Help");
   heard("");
-  for (const auto pressed : {Qt::Key_Tab, Qt::Key_Return}) {
-    QTest::keyClick(help->windowHandle(), pressed);
-  }
+  for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(help->windowHandle(), it);
   EXPECT_EQ(heard("say"), QStringList({"the keys, link", "Playing by keys and by ear"}));
   QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
@@ -219,8 +213,7 @@ TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
   EXPECT_EQ(heard("say").size(), presses - 1) << "the last is read out with the box";
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList("The puzzle is over"));
-  key(Qt::Key_Tab);
-  key(Qt::Key_Space);
+  for (const auto it : {Qt::Key_Tab, Qt::Key_Space}) key(it);
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
   EXPECT_TRUE(heard("say").value(0).startsWith("Puzzle 2. Corners: top left "));
 }

@@ -59,7 +59,8 @@ struct PrintTest : WindowTest {
       if (auto* wait = dynamic_cast<QProgressDialog*>(modal)) return onWait(*wait);
       auto* dialog = dynamic_cast<QFileDialog*>(modal);
       if (dialog == nullptr) return answer(modal);
-      messages.push_back(dialog->windowTitle());
+      const QString proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
+      messages.push_back(dialog->windowTitle() + ": " + proposed);
       dialog->findChild<QLineEdit*>("fileNameEdit")->setText(chosen);
       QMetaObject::invokeMethod(dialog, chosen.isEmpty() ? "reject" : "accept");
     };
@@ -77,13 +78,13 @@ struct PrintTest : WindowTest {
     const QString facts = output("pdfinfo", {folder.filePath(file)}).simplified();
     EXPECT_TRUE(facts.contains("Title: Tessoro puzzles") && facts.contains("Pages: 1 "));
     EXPECT_TRUE(facts.contains(paper)) << facts.toStdString();
-    EXPECT_TRUE(output("pdffonts", {folder.filePath(file)}).contains("LiberationMono"));
+    EXPECT_TRUE(output("pdffonts", {folder.filePath(file)}).contains("LiberationMono "));
   }
 };
 
 TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   const std::string asked = "TESSORO: Print Puzzle No(s): 4, 2, 3";
-  const std::string noPrinter = "No printer was found: save the page as PDF";
+  const std::string noPrinter = "No printer was found: save the page as PDF: Tessoro puzzles.pdf";
   for (int puzzle = 2; puzzle <= 4; ++puzzle) game.search.FindSolution();
   print(folder.filePath("saved"));
   expectThePage("saved.pdf", " pts (");
@@ -97,7 +98,8 @@ TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   expectThePage("spool/d00001-001", "612 x 1008 pts");
   const QString busy = folder.filePath("busy");
   output("touch", {busy});
-  EXPECT_EQ(print({}, [&](auto&) { QFile::remove(busy); }), asked);
+  const auto goOn = [&](auto& wait) { messages.push_back(wait.labelText()), QFile::remove(busy); };
+  EXPECT_EQ(print({}, goOn), "Sending the page to the printer ...");
   output("/usr/sbin/cupsreject", {"B"});
   EXPECT_EQ(print(),
             "TESSORO: The page could not be sent to the printer; it can be printed again.");
