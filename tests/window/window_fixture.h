@@ -27,7 +27,7 @@ struct WindowTest : testing::Test {
   std::function<void(QWidget*)> onModal = [this](QWidget* modal) {
     auto* box = dynamic_cast<QMessageBox*>(modal);
     messages.push_back(box->windowTitle() + ": " + box->text());
-    EXPECT_EQ(box->buttons().size(), box->text().startsWith("Print ") ? 2 : box->isWindow());
+    EXPECT_EQ(box->buttons().size(), box->text().startsWith("Print ") ? 2 : 1);
     box->buttons().first()->click();
   };
   QTimer watch;
