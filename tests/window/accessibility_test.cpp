@@ -136,7 +136,7 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
   EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.contains("-"));
   key(Qt::Key_F10);
-  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  EXPECT_NE(dynamic_cast<QMenu&>(*QApplication::activePopupWidget()).activeAction(), nullptr);
   for (const auto it : {Qt::Key_Escape, Qt::Key_Tab}) key(it);
   choose("Set a Puzzle for computer to solve");
   EXPECT_EQ(heard("Focus").last(), "New Puzzle") << "it is where the other button was";
@@ -162,7 +162,6 @@ TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
   EXPECT_EQ(focusAfter(Qt::Key_Tab), "9, row 5 column 5") << "the one pressed last";
   for (const Qt::Key opening : {Qt::Key_F10, Qt::Key_Alt}) {
     key(opening);
-    ASSERT_NE(QApplication::activePopupWidget(), nullptr) << opening;
     QApplication::activePopupWidget()->close();
   }
 }

@@ -68,11 +68,11 @@ TEST_F(AppearanceTest, TheKeysBringARingAndTheMouseTakesItAway) {
   }
 }
 
-/// The greatest difference in brightness, 0 to 255, between two pixels of the image.
+/// The greatest difference in blue, 0 to 255, between two pixels of the image.
 static int contrastIn(const QImage& image) {
   std::set<int> levels;
   for (int i = 0; i < image.width() * image.height(); ++i) {
-    levels.insert(qGray(image.pixel(i % image.width(), i / image.width())));
+    levels.insert(qBlue(image.pixel(i % image.width(), i / image.width())));
   }
   return *levels.rbegin() - *levels.begin();
 }

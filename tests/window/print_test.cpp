@@ -59,8 +59,8 @@ struct PrintTest : WindowTest {
       if (auto* wait = dynamic_cast<QProgressDialog*>(modal)) return onWait(*wait);
       auto* dialog = dynamic_cast<QFileDialog*>(modal);
       if (dialog == nullptr) return answer(modal);
-      const QString proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-      messages.push_back(dialog->windowTitle() + ": " + proposed);
+      const QString file = QFileInfo(dialog->selectedFiles().value(0)).fileName();
+      messages.push_back(dialog->windowTitle() + ' ' + file + ' ' + dialog->selectedNameFilter());
       dialog->findChild<QLineEdit*>("fileNameEdit")->setText(chosen);
       QMetaObject::invokeMethod(dialog, chosen.isEmpty() ? "reject" : "accept");
     };
@@ -84,7 +84,8 @@ struct PrintTest : WindowTest {
 
 TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   const std::string asked = "TESSORO: Print Puzzle No(s): 4, 2, 3";
-  const std::string noPrinter = "No printer was found: save the page as PDF: Tessoro puzzles.pdf";
+  const std::string noPrinter =
+      "No printer was found: save the page as PDF Tessoro puzzles.pdf PDF (*.pdf)";
   for (int puzzle = 2; puzzle <= 4; ++puzzle) game.search.FindSolution();
   print(folder.filePath("saved"));
   expectThePage("saved.pdf", " pts (");

@@ -79,12 +79,12 @@ TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
 
 TEST_F(WindowTest, HelpIsReadBesideTheGame) {
   choose("Help");
-  auto* help = dynamic_cast<qt::HelpWindow*>(QApplication::activeWindow());
-  ASSERT_NE(help, nullptr);
+  auto* help = &dynamic_cast<qt::HelpWindow&>(*QApplication::activeWindow());
   auto* text = help->findChild<QTextBrowser*>();
   const int top = text->verticalScrollBar()->value();
-  const QList<QAction*> ways = help->findChild<QToolBar*>()->actions();
-  EXPECT_FALSE(ways.at(1)->isEnabled());
+  const auto* bar = help->findChild<QToolBar*>();
+  const QList<QAction*> ways = bar->actions();
+  EXPECT_FALSE(ways.at(1)->isEnabled() || bar->isMovable());
   onModal = [&](QWidget* box) {
     for (const QString way : {"Back", "Contents"}) {
       for (const auto key : {Qt::Key_Tab, Qt::Key_Return})
