@@ -99,6 +99,8 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
                      Qt::WindowCloseButtonHint);
   box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
                                                 : QMessageBox::Yes | QMessageBox::No);
+  // Else it would be the first, which is No on some desktops.
+  box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
   // A sentence that waits is read out with the text: by itself it would come after the box, and cut
   // it short.
   const QString sentence = main_ ? main_->announcer().takeSentence() : QString();
