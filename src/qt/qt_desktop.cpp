@@ -103,10 +103,11 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
   box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
   // A sentence that waits is read out with the text: by itself it would come after the box, and cut
   // it short.
-  const QString sentence = main_ ? main_->announcer().takeSentence() : QString();
-  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
-  if (!sentence.isEmpty() && label != nullptr) {
-    label->setAccessibleName(sentence + ". " + label->text());
+  const QList<QLabel*> labels = box.findChildren<QLabel*>();
+  const auto label = std::ranges::find(labels, box.text(), &QLabel::text);
+  if (main_ && label != labels.end()) {
+    const QString sentence = main_->announcer().takeSentence();
+    if (!sentence.isEmpty()) (*label)->setAccessibleName(sentence + ". " + box.text());
   }
   IgnoredRepeats ignoredRepeats;
   for (QAbstractButton* button : box.buttons()) button->installEventFilter(&ignoredRepeats);
