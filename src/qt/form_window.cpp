@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenu>
@@ -30,9 +30,9 @@ FormWindow::FormWindow(platform::Form& form)
   }
   // In the middle, where a desktop makes the window larger than it asks to be.
   setCentralWidget(new QWidget);
-  auto* middle = new QGridLayout(centralWidget());
+  auto* middle = new QHBoxLayout(centralWidget());
   middle->setContentsMargins({});
-  middle->addWidget(view_, 0, 0, Qt::AlignCenter);
+  middle->addWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
   view_->focusFirst();
   // Stated, so that the pointer of a box that has closed under it cannot stay.

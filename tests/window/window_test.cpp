@@ -56,6 +56,7 @@ TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInT
   const QSize size = window.size();
   const auto maximise = [&] {  // as the toolkit's own title bars do
     window.windowHandle()->setWindowStates(Qt::WindowMaximized);
+    EXPECT_GT(window.maximumWidth(), 10000) << "it takes any size from now on";
     settle();
   };
   maximise();
