@@ -1,5 +1,7 @@
 #include "app/game.h"
 
+#include <utility>
+
 #include "app/spoken_board.h"
 
 namespace tessoro {
@@ -22,38 +24,28 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
 }
 
 void Game::connectEvents() {
-  // Events come in while a search yields. Those that would change the puzzle or the board are
-  // ignored then: the search is about to replace both.
-  const auto unlessSearching = [this](auto handler) {
-    return [this, handler](auto... arguments) {
-      if (!search.underWay()) handler(arguments...);
-    };
-  };
   for (int index = 0; index < boardCells; ++index) {
     Cell& cell = form.board.GridDisp[index];
-    cell.mouseDown = unlessSearching([this, index](const platform::MousePress& press) {
-      narrator.narrate([&] { moves.GridDisp_MouseDown(index, press); },
-                       narrator.outcomeOfPress(index));
-    });
+    cell.mouseDown = [this, index](const platform::MousePress& press) {
+      playEvent([&] { moves.GridDisp_MouseDown(index, press); }, narrator.outcomeOfPress(index));
+    };
     cell.refused = [this, index] { narrator.explainRefusal(index); };
   }
-  const auto connect = [this, unlessSearching](auto& control, auto handler, auto outcome) {
-    control.click =
-        unlessSearching([this, handler, outcome] { narrator.narrate(handler, outcome); });
+  form.NewPuz.click = [this] {
+    playEvent([this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
   };
-  connect(form.NewPuz, [this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
-  connect(
-      form.Solveit, [this] { setAPuzzle.Solveit_Click(); },
-      [this] { return narrator.solvedPuzzle(); });
-  connect(
-      form.StartSolx, [this] { newGame.StartSolx_Click(); },
-      [this] { return narrator.randomStart(); });
-  connect(
-      form.ShowSolx, [this] { solutionDisplay.ShowSolx_Click(); },
-      [] { return Narrator::solutionShown(); });
-  connect(
-      form.SolveMx, [this] { setAPuzzle.SolveMx_Click(); },
-      [this] { return narrator.modeSwitched(); });
+  form.Solveit.click = [this] {
+    playEvent([this] { setAPuzzle.Solveit_Click(); }, [this] { return narrator.solvedPuzzle(); });
+  };
+  form.StartSolx.click = [this] {
+    playEvent([this] { newGame.StartSolx_Click(); }, [this] { return narrator.randomStart(); });
+  };
+  form.ShowSolx.click = [this] {
+    playEvent([this] { solutionDisplay.ShowSolx_Click(); }, Narrator::solutionShown);
+  };
+  form.SolveMx.click = [this] {
+    playEvent([this] { setAPuzzle.SolveMx_Click(); }, [this] { return narrator.modeSwitched(); });
+  };
   form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };
 
   form.Solveit.contextMenu = [this](auto... arguments) {
@@ -64,6 +56,12 @@ void Game::connectEvents() {
   form.Aboutx.click = [this] { shell.Aboutx_Click(); };
   form.Exitx.click = [this] { shell.Exitx_Click(); };
   form.unload = [this] { startUp.Form_Unload(); };
+}
+
+/// Events come in while a search yields. Those that would change the puzzle or the board are
+/// ignored then: the search is about to replace both.
+void Game::playEvent(const std::function<void()>& handler, Narrator::Sentence outcome) {
+  if (!search.underWay()) narrator.narrate(handler, std::move(outcome));
 }
 
 }  // namespace tessoro

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "app/form1.h"
 #include "app/narrator.h"
 #include "app/shell.h"
@@ -43,6 +45,8 @@ class Game {
 
  private:
   void connectEvents();
+  /// Has a handler play its part and its outcome told.
+  void playEvent(const std::function<void()>& handler, Narrator::Sentence outcome);
 };
 
 }  // namespace tessoro

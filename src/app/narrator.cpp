@@ -36,26 +36,18 @@ std::string valueOf(const std::string& caption) {
 
 }  // namespace
 
-Narrator::Narrator(const Form1& form, const PuzzleState& state, const SolutionSearch& search,
-                   platform::Desktop& desktop)
-    : form_(form), state_(state), search_(search), desktop_(desktop) {
-  // Boxes that come up while a search yields do not belong to it.
-  desktop_.boxOpens = [this] {
+void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
+  const auto announceOutcome = [&] {
+    const std::string sentence = outcome ? std::exchange(outcome, nullptr)() : "";
+    if (!sentence.empty()) desktop_.announce(sentence);
+  };
+  // Boxes that come up while a search yields are not the handler's.
+  desktop_.boxOpens = [&] {
     if (!search_.underWay()) announceOutcome();
   };
-}
-
-void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
-  outcome_ = std::move(outcome);
   handler();
+  desktop_.boxOpens = nullptr;
   announceOutcome();
-}
-
-void Narrator::announceOutcome() {
-  const Sentence outcome = std::exchange(outcome_, nullptr);
-  if (!outcome) return;
-  const std::string sentence = outcome();
-  if (!sentence.empty()) desktop_.announce(sentence);
 }
 
 Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
@@ -80,7 +72,8 @@ std::string Narrator::changesSince(const Heard& before) const {
   std::string words;
   if (before.captions[plainResult].empty()) {
     const auto wrong = std::count(now.right.begin() + 1, now.right.end(), false);
-    return ", no line has a value yet, corners to get right: " + std::to_string(wrong);
+    return ", no line has a value yet, corners to get right: " +
+           numberText(static_cast<int>(wrong));
   }
   for (int cell = 1; cell <= gridCells; ++cell) {
     const std::string line = lineOf(cell);

@@ -13,12 +13,18 @@ namespace tessoro {
 
 /// Tells players who do not see the board what each press and command has changed: one sentence
 /// each, as short as can be, since they hear it a hundred times in a puzzle.
+///
+/// The game narrates: it runs a handler and puts its outcome into a sentence, or explains why a
+/// press did nothing. The desktop announces the sentence: it has it spoken when its turn comes.
+/// What else a screen reader reads, such as the names of cells, it takes from the controls by
+/// itself.
 class Narrator {
  public:
   using Sentence = std::function<std::string()>;
 
   Narrator(const Form1& form, const PuzzleState& state, const SolutionSearch& search,
-           platform::Desktop& desktop);
+           platform::Desktop& desktop)
+      : form_(form), state_(state), search_(search), desktop_(desktop) {}
 
   /// Runs the handler of an event, and announces its outcome at its end, or earlier when a message
   /// box comes up. The sentence is put together only then; an empty one is not announced.
@@ -31,12 +37,8 @@ class Narrator {
   /// Announces why a press on the disabled button "Solve Puzzle" did nothing.
   void explainDisabledSolveit() const { desktop_.announce("Press a corner first"); }
 
-  /// Announces the first puzzle.
-  void announceStart() const {
-    if (search_.SolveFound()) desktop_.announce(corners());
-  }
-
-  // The outcomes of the commands.
+  // What there is to tell of the first puzzle, and the outcomes of the commands.
+  std::string firstPuzzle() const { return search_.SolveFound() ? corners() : ""; }
   std::string newPuzzle() const;
   std::string solvedPuzzle() const;
   std::string randomStart() const;
@@ -53,13 +55,11 @@ class Narrator {
   Heard heard() const;
   std::string corners() const;
   std::string changesSince(const Heard& before) const;
-  void announceOutcome();
 
   const Form1& form_;
   const PuzzleState& state_;
   const SolutionSearch& search_;
   platform::Desktop& desktop_;
-  Sentence outcome_;  ///< not announced yet
 };
 
 }  // namespace tessoro

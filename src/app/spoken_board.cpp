@@ -33,8 +33,8 @@ Accessible::Action decrease() {
 
 /// What a cell shows, then its place.
 std::string describe(int index, const Cell& cell) {
-  return spoken(cell.caption()) + ", row " + std::to_string(rowOf(index)) + " column " +
-         std::to_string(columnOf(index));
+  return spoken(cell.caption()) + ", row " + numberText(rowOf(index)) + " column " +
+         numberText(columnOf(index));
 }
 
 Accessible describedCell(int index, const Cell& cell) {

@@ -28,7 +28,7 @@ class StartUp {
   void Form_Unload() { desktop_.endProgram(); }
 
  private:
-  void setRole(int index);
+  void setLook(int index);
 
   Board& board_;
   PrintPage& page_;

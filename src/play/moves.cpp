@@ -46,7 +46,7 @@ void Moves::inputCorner(int index, platform::MouseButton button) {
 
 void Moves::play(int index, platform::MouseButton button) {
   if (state_.BoardLocked) return;
-  if (!board_.GridDisp[OuterCornerCells[1]].Visible()) makeFirstMove();
+  if (!board_.GridDisp[OuterCornerCells[1]].Visible()) beginMove();
   Cell& cell = board_.GridDisp[index];
   if (cell.Tag().starts_with('X')) {
     moveOperator(index);
@@ -58,7 +58,7 @@ void Moves::play(int index, platform::MouseButton button) {
 
 /// Every move but those on a board whose top left corner is wrong begins with this, since a right
 /// corner hides its outer corner cell.
-void Moves::makeFirstMove() {
+void Moves::beginMove() {
   board_.setOuterCornersVisible(true);
   results_.updateAll();
   RightMess_.Visible = true;

@@ -30,7 +30,7 @@ class Moves {
  private:
   void inputCorner(int index, platform::MouseButton button);
   void play(int index, platform::MouseButton button);
-  void makeFirstMove();
+  void beginMove();
   void moveNumber(Cell& cell, platform::MouseButton button);
   void moveOperator(int index);
 

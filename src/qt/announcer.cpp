@@ -1,32 +1,55 @@
 #include "qt/announcer.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QEvent>
 #include <utility>
 
 namespace qt {
 namespace {
 
-/// From this version on the toolkit's events of new names carry the name, and screen readers read
-/// it out where it is that of the focus or the window. Its event for sentences is as old.
-constexpr bool readsNewNames = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
-/// What screen readers read out whenever it is shown.
-class Notification final : public QWidget {
- public:
-  using QWidget::QWidget;
-};
+/// The toolkit's events of new names carry the name, and screen readers read it out where it is
+/// that of the focus or the window.
+constexpr bool readsNewNames = true;
+
+void say(QWidget& window, const QString& sentence) {
+  QAccessibleAnnouncementEvent event(&window, sentence);
+  QAccessible::updateAccessibility(&event);
+}
+
+#else
+
+constexpr bool readsNewNames = false;
+
+/// Of a widget that screen readers read out whenever it is shown, since the toolkit has no event
+/// for sentences.
+constexpr const char* notificationName = "notification";
 
 QAccessibleInterface* notificationInterface(const QString& /*className*/, QObject* object) {
-  auto* notification = dynamic_cast<Notification*>(object);
-  if (notification == nullptr) return nullptr;
-  return new QAccessibleWidget(notification, QAccessible::Notification);
+  if (object->objectName() != notificationName) return nullptr;
+  return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Notification);
 }
+
+void say(QWidget& window, const QString& sentence) {
+  QAccessible::installFactory(notificationInterface);  // which it does once
+  auto* notification = window.findChild<QWidget*>(notificationName);
+  if (notification == nullptr) {
+    notification = new QWidget(&window);
+    notification->setObjectName(notificationName);
+    notification->resize(0, 0);
+  }
+  notification->hide();
+  notification->setAccessibleName(sentence);
+  notification->show();
+}
+
+#endif
 
 }  // namespace
 
 Announcer::Announcer(QWidget& window) : window_(window) {
-  QAccessible::installFactory(notificationInterface);
   QAccessible::installActivationObserver(this);
   window.installEventFilter(this);
 }
@@ -69,23 +92,13 @@ void Announcer::introduce(const QString& text) {
 void Announcer::speak() {
   const QString sentence = takeSentence();
   if (sentence.isEmpty()) return;
-  QWidget* focused = window_.focusWidget();
-  if (std::exchange(focusFirst_, false) && focused != nullptr && focused->hasFocus()) {
+  QWidget* focused = QApplication::focusWidget();
+  if (focused != nullptr && focused == focusInMenu_) {
     QAccessibleEvent event(focused, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
   }
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  QAccessibleAnnouncementEvent event(&window_, sentence);
-  QAccessible::updateAccessibility(&event);
-#else
-  if (notification_ == nullptr) {
-    notification_ = new Notification(&window_);
-    notification_->resize(0, 0);
-  }
-  notification_->hide();
-  notification_->setAccessibleName(sentence);
-  notification_->show();
-#endif
+  focusInMenu_ = nullptr;
+  say(window_, sentence);
 }
 
 void setTitle(QWidget& window, const QString& title) {

@@ -10,6 +10,7 @@
 #include <variant>
 
 #include "platform/cell_pane.h"
+#include "qt/announcer.h"
 #include "qt/convert.h"
 #include "qt/form_view.h"
 #include "qt/modal.h"
@@ -21,17 +22,9 @@ using platform::Accessible;
 using platform::CellPane;
 using platform::MouseButton;
 
+/// Left, right and middle have the same numbers there and here; those beyond are all one.
 MouseButton toMouseButton(Qt::MouseButton button) {
-  switch (button) {
-    case Qt::LeftButton:
-      return MouseButton::left;
-    case Qt::RightButton:
-      return MouseButton::right;
-    case Qt::MiddleButton:
-      return MouseButton::middle;
-    default:
-      return MouseButton::other;
-  }
+  return static_cast<MouseButton>(std::min<int>(button, static_cast<int>(MouseButton::other)));
 }
 
 std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
@@ -50,16 +43,9 @@ constexpr std::array<std::pair<int, MouseButton>, 6> pressingKeys{
      {Qt::Key_Backspace, MouseButton::right}}};
 
 QAccessible::Role toRole(Accessible::Role role) {
-  switch (role) {
-    case Accessible::Role::button:
-      return QAccessible::Button;
-    case Accessible::Role::image:
-      return QAccessible::Graphic;
-    case Accessible::Role::label:
-    case Accessible::Role::none:
-      break;
-  }
-  return QAccessible::StaticText;
+  return role == Accessible::Role::button  ? QAccessible::Button
+         : role == Accessible::Role::image ? QAccessible::Graphic
+                                           : QAccessible::StaticText;
 }
 
 /// The control as assistive technology meets it.
@@ -68,10 +54,9 @@ class AccessibleControl final : public QAccessibleWidget {
   explicit AccessibleControl(ControlWidget& control)
       : QAccessibleWidget(&control, toRole(control.accessible().role)), control_(control) {}
 
-  /// The widget is never disabled, since disabled controls can be read as well.
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    state.disabled = !control_.takesInput();
+    state.disabled = control_.isDisabled();
     return state;
   }
   QString text(QAccessible::Text kind) const override {
@@ -80,7 +65,7 @@ class AccessibleControl final : public QAccessibleWidget {
 
   QStringList actionNames() const override {
     QStringList names;
-    if (control_.takesInput() && control_.isVisible()) {
+    if (!control_.isDisabled() && control_.isVisible()) {
       for (const Accessible::Action& action : control_.accessible().actions) {
         names += toQString(action.name);
       }
@@ -106,11 +91,18 @@ QAccessibleInterface* controlInterface(const QString& /*className*/, QObject* ob
 }  // namespace
 
 ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place, FormView& view)
-    : QWidget(&view), control_(control), place_(place), view_(view) {
+    : QWidget(&view),
+      control_(control),
+      cell_(std::holds_alternative<CellPane*>(control) ? std::get<CellPane*>(control) : nullptr),
+      place_(place),
+      view_(view),
+      name_(accessible().name()),
+      disabled_(isDisabled()) {
   QAccessible::installFactory(controlInterface);  // once is enough, and the toolkit sees to that
   // The view draws, also where this is shown or hidden.
   setUpdatesEnabled(false);
   setGeometry(pixelRect(place));
+  setVisible(base(control).Visible());
   if (accessible().inGrid) {
     setFocusPolicy(Qt::ClickFocus);  // the view lets Tab reach one of the grid
   } else if (accessible().role == Accessible::Role::button) {
@@ -118,16 +110,28 @@ ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place,
   }
 }
 
-CellPane* ControlWidget::cell() const {
-  auto* const* cell = std::get_if<CellPane*>(&control_);
-  return cell == nullptr ? nullptr : *cell;
+bool ControlWidget::isDisabled() const {
+  return cell_ != nullptr && !cell_->enabled();
+}
+
+void ControlWidget::tellClients() {
+  if (accessible().name() != name_) {
+    name_ = accessible().name();
+    tellNewName(*this);
+  }
+  if (isDisabled() != disabled_) {
+    disabled_ = isDisabled();
+    QAccessible::State changes;
+    changes.disabled = true;
+    QAccessibleStateChangeEvent event(this, changes);
+    QAccessible::updateAccessibility(&event);
+  }
 }
 
 void ControlWidget::press(MouseButton button) {
-  CellPane* pressed = cell();
-  if (pressed == nullptr) return;
-  pressed->press({.button = button});
-  pressed->release(button, true);
+  if (cell_ == nullptr) return;
+  cell_->press({.button = button});
+  cell_->release(button, true);
 }
 
 void ControlWidget::pressLater(MouseButton button) {
@@ -140,14 +144,14 @@ void ControlWidget::pressLater(MouseButton button) {
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
   view_.setKeysUsed(false);
   // While one button is held down, the others come here wherever they are pressed.
-  if (cell() == nullptr || !rect().contains(event->position().toPoint())) return;
-  cell()->press({toMouseButton(event->button()), shiftState(event->modifiers()),
-                 event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
+  if (cell_ == nullptr || !rect().contains(event->position().toPoint())) return;
+  cell_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
+                event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (cell() == nullptr) return;
-  cell()->release(toMouseButton(event->button()), rect().contains(event->position().toPoint()));
+  if (cell_ == nullptr) return;
+  cell_->release(toMouseButton(event->button()), rect().contains(event->position().toPoint()));
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
@@ -161,14 +165,6 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
   } else if (!plain || !accessible().inGrid || !view_.moveFocus(*this, event->key())) {
     event->ignore();
   }
-}
-
-void ControlWidget::focusInEvent(QFocusEvent* /*event*/) {
-  view_.focusMoved();
-}
-
-void ControlWidget::focusOutEvent(QFocusEvent* /*event*/) {
-  view_.focusMoved();
 }
 
 }  // namespace qt

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "platform/cell_pane.h"
 #include "qt/convert.h"
 
 namespace qt {
@@ -98,28 +96,9 @@ Look look(const Label& label) {
           .forecolor = label.forecolor};
 }
 
-Look look(const PictureBox& box) {
-  return {.visible = box.Visible()};
+Look look(const platform::Control& control) {
+  return {.visible = control.Visible()};
 }
-
-Look look(const Frame& /*frame*/) {
-  return {};
-}
-
-const platform::Accessible& accessible(const platform::Control& control) {
-  return control.accessible;
-}
-
-const platform::Accessible& accessible(const Frame& /*frame*/) {
-  static const platform::Accessible none;
-  return none;
-}
-
-void listen(platform::Observable& control, std::function<void()> listener) {
-  control.changed = std::move(listener);
-}
-
-void listen(Frame& /*frame*/, const std::function<void()>& /*listener*/) {}
 
 }  // namespace
 
@@ -141,20 +120,6 @@ void drawRing(const Canvas& canvas) {
 
 Look lookOf(const DrawnControl& control) {
   return std::visit([](const auto* it) { return look(*it); }, control);
-}
-
-bool takesInput(const DrawnControl& control) {
-  auto* const* cell = std::get_if<CellPane*>(&control);
-  return cell == nullptr || (*cell)->enabled();
-}
-
-const platform::Accessible& accessibleOf(const DrawnControl& control) {
-  return std::visit([](const auto* it) -> const platform::Accessible& { return accessible(*it); },
-                    control);
-}
-
-void onChange(const DrawnControl& control, std::function<void()> listener) {
-  std::visit([&](auto* it) { listen(*it, std::move(listener)); }, control);
 }
 
 }  // namespace qt

@@ -28,7 +28,6 @@ FormWindow::FormWindow(platform::Form& form)
   }
   setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  view_->focusFirst();
 }
 
 FormWindow::~FormWindow() {
@@ -65,7 +64,7 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
         action, &QAction::triggered, this,
         [this, entry] {
           if (isBlocked(*this)) return;
-          announcer_.tellFocusFirst();
+          announcer_.menuClosed();
           entry->choose();
         },
         Qt::QueuedConnection);

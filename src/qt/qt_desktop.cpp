@@ -14,6 +14,7 @@
 
 #include "qt/convert.h"
 #include "qt/form_dialog.h"
+#include "qt/form_view.h"
 #include "qt/form_window.h"
 
 namespace qt {
@@ -56,19 +57,18 @@ class IgnoredRepeats final : public QObject {
 
 }  // namespace
 
-std::unique_ptr<QApplication> QtDesktop::makeApplication(Arguments& arguments,
-                                                         const Program& program) {
-  QCoreApplication::setApplicationName(toQString(program.name));
+std::unique_ptr<QApplication> QtDesktop::makeApplication() {
+  QCoreApplication::setApplicationName(toQString(program_.name));
   const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
-  auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+  auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
   qInstallMessageHandler(handler);
   return application;
 }
 
 QtDesktop::QtDesktop(char* programPath, Program program)
     : program_(std::move(program)),
-      arguments_{1, {programPath, nullptr}},
-      application_(makeApplication(arguments_, program_)),
+      arguments_{programPath, nullptr},
+      application_(makeApplication()),
       printer_(toQString(program_.documentName),
                [this](std::string_view text) { messageBox(text, Buttons::ok); }),
       helpViewer_(
@@ -111,15 +111,13 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
 }
 
 void QtDesktop::announce(std::string_view sentence) {
-  if (main_) {
-    main_->announcer().announce(toQString(sentence));
-  } else {
-    greeting_ = toQString(sentence);
-  }
+  if (main_) main_->announcer().announce(toQString(sentence));
 }
 
 void QtDesktop::yield() {
+  if (main_) main_->view().setYielding(true);
   QApplication::processEvents();
+  if (main_) main_->view().setYielding(false);
 }
 
 void QtDesktop::showModal(platform::Form& form) {
@@ -131,10 +129,10 @@ void QtDesktop::endProgram() {
   std::_Exit(EXIT_SUCCESS);
 }
 
-FormWindow& QtDesktop::show(platform::Form& form) {
+FormWindow& QtDesktop::show(platform::Form& form, std::string_view greeting) {
   main_ = std::make_unique<FormWindow>(form);
   printer_.setParentWindow(main_.get());
-  main_->announcer().announce(std::exchange(greeting_, {}));
+  announce(greeting);
   main_->show();
   return *main_;
 }
@@ -144,8 +142,8 @@ void QtDesktop::close() {
   main_.reset();
 }
 
-int QtDesktop::run(platform::Form& form) {
-  show(form);
+int QtDesktop::run(platform::Form& form, std::string_view greeting) {
+  show(form, greeting);
   const int status = QApplication::exec();
   close();
   return status;

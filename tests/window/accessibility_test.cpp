@@ -139,7 +139,7 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_NE(dynamic_cast<QMenu&>(*QApplication::activePopupWidget()).activeAction(), nullptr);
   for (const auto it : {Qt::Key_Escape, Qt::Key_Tab}) key(it);
   choose("Set a Puzzle for computer to solve");
-  EXPECT_EQ(heard("Focus").last(), "New Puzzle") << "it is where the other button was";
+  EXPECT_EQ(heard("Focus").count("New Puzzle"), 1) << "it is where the other button was";
 }
 
 TEST_F(AccessibilityTest, ArrowsGoThroughTheBoardAndTabBetweenItAndTheButton) {
@@ -213,6 +213,8 @@ TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList("The puzzle is over"));
   for (const auto it : {Qt::Key_Tab, Qt::Key_Space}) key(it);
+  settle();
+  EXPECT_TRUE(told.filter(QRegularExpression("target $")).isEmpty()) << "of a board in between";
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
   EXPECT_TRUE(heard("say").value(0).startsWith("Puzzle 2. Corners: top left "));
 }

@@ -6,7 +6,7 @@
 #include <QtWidgets>
 
 #include "app/game.h"
-#include "app/program.h"
+#include "program.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
 
@@ -19,7 +19,7 @@ inline qt::QtDesktop* theDesktop = nullptr;
 struct WindowTest : testing::Test {
   ReseededDigits digits{*theDesktop};
   Game game{*theDesktop, digits};
-  qt::FormWindow& window = (theDesktop->announce("Welcome"), theDesktop->show(game.form));
+  qt::FormWindow& window = theDesktop->show(game.form, "Welcome");
   qt::FormView& view = window.view();
   std::map<QString, QAction*> menu;  ///< its commands by the captions that they have at first
   std::vector<QString> messages;
@@ -50,7 +50,7 @@ struct WindowTest : testing::Test {
 
   /// Has all events processed, also those that others bring about.
   static void settle() {
-    for (int round = 0; round < 3; ++round) theDesktop->yield();
+    for (int round = 0; round < 3; ++round) QApplication::processEvents();
   }
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
