@@ -1,7 +1,5 @@
 #include "app/game.h"
 
-#include <utility>
-
 #include "app/spoken_board.h"
 
 namespace tessoro {
@@ -18,7 +16,8 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
       printCommand(page, desktop),
       shell(form, desktop),
       startUp(form.board, page, search, form.CompMess, form.Solveit, desktop),
-      narrator(form, state, search, desktop) {
+      narrator(form, state, search, desktop),
+      keyCommands(form, state, moves, narrator) {
   connectEvents();
   describeForScreenReaders(form);
 }
@@ -27,25 +26,37 @@ void Game::connectEvents() {
   for (int index = 0; index < boardCells; ++index) {
     Cell& cell = form.board.GridDisp[index];
     cell.mouseDown = [this, index](const platform::MousePress& press) {
-      playEvent([&] { moves.GridDisp_MouseDown(index, press); }, narrator.outcomeOfPress(index));
+      narrator.narrate([&] { moves.GridDisp_MouseDown(index, press); },
+                       narrator.outcomeOfPress(index));
     };
     cell.refused = [this, index] { narrator.explainRefusal(index); };
+    cell.typed = [this, index](char character, bool shift) {
+      return keyCommands.GridDisp_KeyPress(index, character, shift);
+    };
   }
   form.NewPuz.click = [this] {
-    playEvent([this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
+    narrator.narrate([this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
   };
   form.Solveit.click = [this] {
-    playEvent([this] { setAPuzzle.Solveit_Click(); }, [this] { return narrator.solvedPuzzle(); });
+    narrator.narrate([this] { setAPuzzle.Solveit_Click(); },
+                     [this] { return narrator.solvedPuzzle(); });
   };
   form.StartSolx.click = [this] {
-    playEvent([this] { newGame.StartSolx_Click(); }, [this] { return narrator.randomStart(); });
+    narrator.narrate([this] { newGame.StartSolx_Click(); },
+                     [this] { return narrator.randomStart(); });
   };
   form.ShowSolx.click = [this] {
-    playEvent([this] { solutionDisplay.ShowSolx_Click(); }, Narrator::solutionShown);
+    narrator.narrate([this] { solutionDisplay.ShowSolx_Click(); }, Narrator::solutionShown);
   };
   form.SolveMx.click = [this] {
-    playEvent([this] { setAPuzzle.SolveMx_Click(); }, [this] { return narrator.modeSwitched(); });
+    narrator.narrate([this] { setAPuzzle.SolveMx_Click(); },
+                     [this] { return narrator.modeSwitched(); });
   };
+  for (Cell* button : {&form.NewPuz, &form.Solveit}) {
+    button->typed = [this](char character, bool shift) {
+      return keyCommands.button_KeyPress(character, shift);
+    };
+  }
   form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };
 
   form.Solveit.contextMenu = [this](auto... arguments) {
@@ -55,13 +66,9 @@ void Game::connectEvents() {
   form.Helpx.click = [this] { shell.Helpx_Click(); };
   form.Aboutx.click = [this] { shell.Aboutx_Click(); };
   form.Exitx.click = [this] { shell.Exitx_Click(); };
+  form.help = [this] { shell.Helpx_Click(); };
+  form.edgeReached = [this] { narrator.explainEdge(); };
   form.unload = [this] { startUp.Form_Unload(); };
-}
-
-/// Events come in while a search yields. Those that would change the puzzle or the board are
-/// ignored then: the search is about to replace both.
-void Game::playEvent(const std::function<void()>& handler, Narrator::Sentence outcome) {
-  if (!search.underWay()) narrator.narrate(handler, std::move(outcome));
 }
 
 }  // namespace tessoro

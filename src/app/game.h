@@ -1,8 +1,7 @@
 #pragma once
 
-#include <functional>
-
 #include "app/form1.h"
+#include "app/key_commands.h"
 #include "app/narrator.h"
 #include "app/shell.h"
 #include "board/puzzle_state.h"
@@ -42,11 +41,10 @@ class Game {
   Shell shell;
   StartUp startUp;
   Narrator narrator;
+  KeyCommands keyCommands;
 
  private:
   void connectEvents();
-  /// Has a handler play its part and its outcome told.
-  void playEvent(const std::function<void()>& handler, Narrator::Sentence outcome);
 };
 
 }  // namespace tessoro

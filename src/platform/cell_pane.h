@@ -43,6 +43,9 @@ class CellPane final : public Control {
   /// The left button went down and came up again inside the cell, which took input both times and
   /// met no other press in between.
   std::function<void()> click;
+  /// A character was typed while the cell, disabled or not, had the focus; letters are small ones,
+  /// and `shift` tells whether that key was down. The result is whether it means anything there.
+  std::function<bool(char character, bool shift)> typed;
   /// The right button went down; the arguments are the shift state and the point.
   std::function<void(std::int16_t shift, double x, double y)> contextMenu;
 

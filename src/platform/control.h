@@ -36,6 +36,13 @@ class Control : public Observable {
   Accessible accessible;
   Property<bool> Visible{*this, true};
 
+  /// Gives the control the focus, as the keys do; without effect while no window shows it.
+  void SetFocus() const {
+    if (focusWanted) focusWanted();
+  }
+  /// Set by the window that shows the control, if it can have the focus.
+  std::function<void()> focusWanted;
+
  protected:
   ~Control() = default;
 };

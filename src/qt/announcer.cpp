@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
+#include <QStatusBar>
 #include <utility>
 
 namespace qt {
@@ -19,6 +20,9 @@ void say(QWidget& window, const QString& sentence) {
   QAccessible::updateAccessibility(&event);
 }
 
+/// An event leaves nothing behind.
+void forget(QWidget& /*window*/) {}
+
 #else
 
 constexpr bool readsNewNames = false;
@@ -33,16 +37,24 @@ QAccessibleInterface* notificationInterface(const QString& /*className*/, QObjec
 }
 
 void say(QWidget& window, const QString& sentence) {
-  QAccessible::installFactory(notificationInterface);  // which it does once
   auto* notification = window.findChild<QWidget*>(notificationName);
   if (notification == nullptr) {
-    notification = new QWidget(&window);
+    QAccessible::installFactory(notificationInterface);  // which it does once
+    // In a status bar it is read out without the word "notification" before it.
+    auto* bar = new QStatusBar(&window);
+    notification = new QWidget(bar);
     notification->setObjectName(notificationName);
-    notification->resize(0, 0);
+    bar->resize(0, 0);
+    bar->show();
   }
   notification->hide();
   notification->setAccessibleName(sentence);
   notification->show();
+}
+
+/// Else it would be read out again when the window is shown again.
+void forget(QWidget& window) {
+  if (auto* notification = window.findChild<QWidget*>(notificationName)) notification->hide();
 }
 
 #endif
@@ -73,6 +85,7 @@ void Announcer::speakLater() {
 /// A sentence may have waited for the window to come up.
 bool Announcer::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ActivationChange && window_.isActiveWindow()) speakLater();
+  if (event->type() == QEvent::Hide) forget(window_);
   return QObject::eventFilter(watched, event);
 }
 
@@ -110,8 +123,9 @@ void setTitle(QWidget& window, const QString& title) {
 }
 
 void tellNewName(QWidget& widget) {
-  if (readsNewNames && widget.hasFocus()) return;
-  QAccessibleEvent event(&widget, QAccessible::NameChanged);
+  // The focus told once more makes them forget the old name as well, and they read out nothing.
+  const bool readOut = readsNewNames && widget.hasFocus();
+  QAccessibleEvent event(&widget, readOut ? QAccessible::Focus : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }
 

@@ -34,12 +34,10 @@ std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 /// The keys that stand for a press of a mouse button.
-constexpr std::array<std::pair<int, MouseButton>, 6> pressingKeys{
+constexpr std::array<std::pair<int, MouseButton>, 4> pressingKeys{
     {{Qt::Key_Space, MouseButton::left},
      {Qt::Key_Return, MouseButton::left},
      {Qt::Key_Enter, MouseButton::left},
-     {Qt::Key_Plus, MouseButton::left},
-     {Qt::Key_Minus, MouseButton::right},
      {Qt::Key_Backspace, MouseButton::right}}};
 
 QAccessible::Role toRole(Accessible::Role role) {
@@ -155,16 +153,26 @@ void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
-  const Qt::KeyboardModifiers others = ~(Qt::ShiftModifier | Qt::KeypadModifier);
-  const bool plain = (event->modifiers() & others) == 0;
-  const auto* found =
+  const Qt::KeyboardModifiers modifiers =
+      event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  const bool plain = modifiers == Qt::NoModifier;
+  const bool control = modifiers == Qt::ControlModifier;
+  const auto* pressing =
       std::ranges::find(pressingKeys, event->key(), &std::pair<int, MouseButton>::first);
-  if (plain && found != pressingKeys.end()) {
+  if (plain && pressing != pressingKeys.end()) {
     view_.setKeysUsed(true);
-    if (!event->isAutoRepeat()) press(found->second);  // a button held down does not repeat either
-  } else if (!plain || !accessible().inGrid || !view_.moveFocus(*this, event->key())) {
+    press(pressing->second);
+  } else if (plain && type(event->text(), event->modifiers().testFlag(Qt::ShiftModifier))) {
+    view_.setKeysUsed(true);
+  } else if (!(plain || control) || !view_.moveFocus(*this, event->key(), control)) {
     event->ignore();
   }
+}
+
+bool ControlWidget::type(const QString& text, bool shift) {
+  // No character beyond ASCII means anything.
+  const char character = text.size() == 1 ? text.front().toLower().toLatin1() : '\0';
+  return character != '\0' && cell_ != nullptr && cell_->typed && cell_->typed(character, shift);
 }
 
 }  // namespace qt

@@ -41,6 +41,7 @@ class ControlWidget final : public QWidget {
 
  private:
   void press(platform::MouseButton button);
+  bool type(const QString& text, bool shift);
 
   DrawnControl control_;
   platform::CellPane* cell_;  ///< the same, if it is a cell

@@ -22,9 +22,8 @@ int lineWidth(const Canvas& canvas) {
   return std::max(1, static_cast<int>(canvas.scale));
 }
 
-void drawEdges(const Canvas& canvas, const QRect& rect, platform::Colour top, platform::Colour left,
-               platform::Colour right, platform::Colour bottom) {
-  const int line = lineWidth(canvas);
+void drawEdges(const Canvas& canvas, const QRect& rect, int line, platform::Colour top,
+               platform::Colour left, platform::Colour right, platform::Colour bottom) {
   fill(canvas, {rect.left(), rect.top(), rect.width(), line}, top);
   fill(canvas, {rect.left(), rect.top(), line, rect.height()}, left);
   fill(canvas, {rect.right() - line + 1, rect.top(), line, rect.height()}, right);
@@ -50,8 +49,8 @@ QColor greyed(const Look& look, const QPalette& palette) {
 
 void draw(const CellPane& cell, const Look& look, const Canvas& canvas) {
   fill(canvas, canvas.rect, look.backcolor);
-  drawEdges(canvas, canvas.rect, cell.bordertop, cell.borderleft, cell.borderright,
-            cell.borderbottom);
+  drawEdges(canvas, canvas.rect, lineWidth(canvas), cell.bordertop, cell.borderleft,
+            cell.borderright, cell.borderbottom);
   drawText(canvas, look.text, {cell.font, cell.fontsize, cell.fontbold},
            look.greyed ? greyed(look, canvas.palette) : toQColor(look.forecolor, canvas.palette));
 }
@@ -75,9 +74,9 @@ void draw(const Frame& /*frame*/, const Look& /*look*/, const Canvas& canvas) {
   using platform::shadow3D;
   const int line = lineWidth(canvas);
   fill(canvas, canvas.rect, platform::buttonFace);
-  drawEdges(canvas, canvas.rect.adjusted(line, line, 0, 0), highlight3D, highlight3D, highlight3D,
-            highlight3D);
-  drawEdges(canvas, canvas.rect.adjusted(0, 0, -line, -line), shadow3D, shadow3D, shadow3D,
+  drawEdges(canvas, canvas.rect.adjusted(line, line, 0, 0), line, highlight3D, highlight3D,
+            highlight3D, highlight3D);
+  drawEdges(canvas, canvas.rect.adjusted(0, 0, -line, -line), line, shadow3D, shadow3D, shadow3D,
             shadow3D);
 }
 
@@ -110,10 +109,10 @@ void drawControl(const DrawnControl& control, const Look& look, const Canvas& ca
 void drawRing(const Canvas& canvas) {
   constexpr platform::Colour dark = platform::palette[0];
   constexpr platform::Colour bright = platform::palette[14];
-  const int line = lineWidth(canvas);
+  const int line = std::max(1, qRound(canvas.scale));
   QRect rect = canvas.rect;
   for (const platform::Colour colour : {dark, bright, bright, dark}) {
-    drawEdges(canvas, rect, colour, colour, colour, colour);
+    drawEdges(canvas, rect, line, colour, colour, colour, colour);
     rect.adjust(line, line, -line, -line);
   }
 }

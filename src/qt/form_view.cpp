@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <ranges>
 #include <utility>
@@ -33,11 +34,28 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
   return result;
 }
 
-/// The steps to the right and downwards that an arrow key goes; none for other keys.
-QPoint directionOf(int key) {
-  const auto is = [key](Qt::Key arrow) { return key == arrow ? 1 : 0; };
-  return {is(Qt::Key_Right) - is(Qt::Key_Left), is(Qt::Key_Down) - is(Qt::Key_Up)};
-}
+/// Where a key leads in the grid: so many steps to the right, then downwards, each a single one or
+/// on to the edge.
+struct Way {
+  int key;
+  bool control;
+  QPoint across;
+  QPoint down;
+  bool toEdge;
+};
+constexpr QPoint stay(0, 0);
+constexpr QPoint left(-1, 0);
+constexpr QPoint right(1, 0);
+constexpr QPoint up(0, -1);
+constexpr QPoint down(0, 1);
+constexpr std::array<Way, 8> ways{{{Qt::Key_Left, false, left, stay, false},
+                                   {Qt::Key_Right, false, right, stay, false},
+                                   {Qt::Key_Up, false, stay, up, false},
+                                   {Qt::Key_Down, false, stay, down, false},
+                                   {Qt::Key_Home, false, left, stay, true},
+                                   {Qt::Key_End, false, right, stay, true},
+                                   {Qt::Key_Home, true, left, up, true},
+                                   {Qt::Key_End, true, right, down, true}}};
 
 }  // namespace
 
@@ -45,7 +63,7 @@ QRect pixelRect(const platform::Place& place) {
   return pixelRectAt(place, 1, {});
 }
 
-FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
+FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent), form_(form) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFixedSize(pixelRect({0, 0, form.clientWidth, form.clientHeight}).size());
   addAll(form.controls, {});
@@ -53,7 +71,10 @@ FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
 }
 
 FormView::~FormView() {
-  for (const Item& item : items_) base(item.control).changed = nullptr;
+  for (const Item& item : items_) {
+    base(item.control).changed = nullptr;
+    base(item.control).focusWanted = nullptr;
+  }
   // The widgets that are about to go pass the focus on.
   disconnect(qApp, nullptr, this, nullptr);
 }
@@ -74,6 +95,8 @@ void FormView::add(DrawnControl control, const platform::Place& place) {
   const platform::Accessible& accessible = base(control).accessible;
   if (accessible.role == platform::Accessible::Role::none) return;
   item.widget = new ControlWidget(control, place, *this);
+  // For this reason the toolkit counts it as use of the keyboard.
+  base(control).focusWanted = [widget = item.widget] { widget->setFocus(Qt::TabFocusReason); };
   if (current_ == nullptr && accessible.inGrid) setCurrent(item.widget);
 }
 
@@ -221,18 +244,37 @@ void FormView::setKeysUsed(bool used) {
   focusMoved();
 }
 
-bool FormView::moveFocus(const ControlWidget& from, int key) {
-  const QPoint direction = directionOf(key);
-  if (direction.isNull()) return false;
-  setKeysUsed(true);
+ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) const {
   // By half a control, so that none is passed over.
-  const QPoint step = direction * (from.width() / 2);
-  for (QPoint at = from.geometry().center() + step; rect().contains(at); at += step) {
+  const QPoint step = direction * (of.width() / 2);
+  if (step.isNull()) return nullptr;
+  for (QPoint at = of.geometry().center() + step; rect().contains(at); at += step) {
     auto* next = dynamic_cast<ControlWidget*>(childAt(at));
-    if (next == nullptr || next == &from || !next->accessible().inGrid) continue;
-    // For this reason the toolkit counts it as use of the keyboard.
-    next->setFocus(Qt::TabFocusReason);
-    break;
+    if (next != nullptr && next != &of && next->accessible().inGrid) return next;
+  }
+  return nullptr;
+}
+
+bool FormView::moveFocus(ControlWidget& from, int key, bool control) {
+  const auto* way = std::ranges::find_if(
+      ways, [&](const Way& it) { return it.key == key && it.control == control; });
+  if (way == ways.end()) return false;
+  setKeysUsed(true);
+  ControlWidget* to = &from;
+  if (from.accessible().inGrid) {
+    for (const QPoint direction : {way->across, way->down}) {
+      for (ControlWidget* next = neighbour(*to, direction); next != nullptr;
+           next = way->toEdge ? neighbour(*to, direction) : nullptr) {
+        to = next;
+      }
+    }
+  } else if (key == Qt::Key_Up && current_ != nullptr) {
+    to = current_;
+  }
+  if (to != &from) {
+    to->setFocus(Qt::TabFocusReason);
+  } else if (form_.edgeReached) {
+    form_.edgeReached();
   }
   return true;
 }

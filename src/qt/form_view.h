@@ -37,9 +37,10 @@ class FormView final : public QWidget {
   void setYielding(bool yielding);
 
   // For the widgets of the controls:
-  /// Moves the focus to the next control of the grid in the direction of an arrow key, if there is
-  /// one; false if the key is no arrow.
-  bool moveFocus(const ControlWidget& from, int key);
+  /// Moves the focus where a key leads within the grid, or back to it, and tells the form where
+  /// that is beyond the grid's edge; false if the key leads nowhere. `control` tells whether that
+  /// key is down.
+  bool moveFocus(ControlWidget& from, int key, bool control);
   /// Whether the user works with the keys, which puts a ring around the control with the focus, or
   /// with the mouse, which takes it away.
   void setKeysUsed(bool used);
@@ -71,6 +72,7 @@ class FormView final : public QWidget {
   void updateItem(std::size_t item);
   void updateRegion(const QRegion& region);
 
+  platform::Form& form_;
   std::vector<Item> items_;         ///< from back to front
   std::vector<std::size_t> stale_;  ///< those that may have changed since the last refresh
   bool yielding_ = false;
@@ -79,6 +81,8 @@ class FormView final : public QWidget {
   // The keys.
   void setCurrent(ControlWidget* widget);
   void focusMoved();
+  /// The next control of the grid to the right and downwards; none beyond the edge.
+  ControlWidget* neighbour(const ControlWidget& of, QPoint direction) const;
 
   ControlWidget* current_ = nullptr;       ///< the one of the grid that Tab reaches
   const ControlWidget* ringed_ = nullptr;  ///< the one with the ring of the focus, if any

@@ -74,6 +74,8 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
     openMenu();
+  } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier && form_.help) {
+    form_.help();
   } else if (event->key() == Qt::Key_Alt && (event->modifiers() & ~Qt::AltModifier) == 0) {
     qApp->installEventFilter(this);
   } else {
@@ -96,6 +98,7 @@ bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
 }
 
 void FormWindow::openMenu() {
+  view_->setKeysUsed(true);
   if (menuBar()->actions().isEmpty()) return;
   QAction* first = menuBar()->actions().first();
   menuBar()->setActiveAction(first);

@@ -1,11 +1,12 @@
 #include "qt/qt_desktop.h"
 
-#include <QAbstractButton>
+#include <QAccessible>
+#include <QEventLoop>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -47,13 +48,14 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const
   std::_Exit(EXIT_FAILURE);
 }
 
-/// Keeps the repeats of a key that has brought a box up, and is still held down, from answering it.
-class IgnoredRepeats final : public QObject {
- public:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    return event->type() == QEvent::KeyPress && dynamic_cast<QKeyEvent*>(event)->isAutoRepeat();
-  }
-};
+/// Screen readers may take in a key only after what it has brought up, and then cut short what they
+/// have begun to say of that. While one listens, waits until it has done with the key.
+void letKeyBeTakenIn() {
+  if (!QAccessible::isActive()) return;
+  QEventLoop loop;
+  QTimer::singleShot(100, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
 
 }  // namespace
 
@@ -78,6 +80,7 @@ QtDesktop::QtDesktop(char* programPath, Program program)
   // The toolkit's file dialog would keep a file of settings in the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
+  application_->installEventFilter(&keyGuard_);
 }
 
 QtDesktop::~QtDesktop() = default;
@@ -103,8 +106,7 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
   if (!sentence.isEmpty() && label != nullptr) {
     label->setAccessibleName(sentence + ". " + label->text());
   }
-  IgnoredRepeats ignoredRepeats;
-  for (QAbstractButton* button : box.buttons()) button->installEventFilter(&ignoredRepeats);
+  letKeyBeTakenIn();
   const int answer = box.exec();
   if (buttons == Buttons::ok) return Answer::ok;
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
@@ -121,6 +123,7 @@ void QtDesktop::yield() {
 }
 
 void QtDesktop::showModal(platform::Form& form) {
+  letKeyBeTakenIn();
   FormDialog(form, main_.get()).run();
 }
 

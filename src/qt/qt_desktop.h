@@ -10,6 +10,7 @@
 #include "platform/desktop.h"
 #include "platform/form.h"
 #include "qt/help_window.h"
+#include "qt/key_guard.h"
 #include "qt/qt_printer.h"
 
 namespace qt {
@@ -58,6 +59,7 @@ class QtDesktop final : public platform::Desktop {
   int argumentCount_ = 1;
   std::array<char*, 2> arguments_;
   std::unique_ptr<QApplication> application_;
+  KeyGuard keyGuard_;
   std::unique_ptr<FormWindow> main_;
   QtPrinter printer_;
   QtHelpViewer helpViewer_;

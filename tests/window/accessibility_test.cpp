@@ -53,7 +53,6 @@ struct AccessibilityTest : WindowTest {
     }
     return matching;
   }
-  void key(Qt::Key key) const { QTest::keyClick(window.windowHandle(), key); }
   static QString focusedName() {
     return QAccessible::queryAccessibleInterface(QApplication::focusWidget())
         ->text(QAccessible::Name);
@@ -91,8 +90,7 @@ TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
   EXPECT_EQ(readings.size(), 40U + 4 + 4 + 2 + 2) << "no holes; targets, faces, labels, buttons";
   const std::string topLeft = caption(50), topRight = caption(51);
   for (const auto& reading : std::vector<std::string>{
-           "Button: " + topLeft + ", row 1 column 1, target " + topLeft +
-               ", correct [SetFocus] disabled",
+           "Button: " + topLeft + ", row 1 column 1, correct [SetFocus] disabled",
            "Button: plus, row 1 column 2 [Press/SetFocus]",
            "Button: times, row 3 column 2 [Press/SetFocus]",
            "Button: 9, row 3 column 3 [Press/Decrease/SetFocus]",
@@ -114,16 +112,18 @@ TEST_F(AccessibilityTest, EveryControlReadsAsWhatItIs) {
 
 TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   click(cell(17));
-  EXPECT_EQ(heard("say"), QStringList("1, no line has a value yet, corners to get right: 3"));
+  EXPECT_EQ(heard("say"),
+            QStringList("1, no line has a value yet, corners to get right: top right, bottom "
+                        "left, bottom right"));
   act(cell(17), "Press");
   EXPECT_TRUE(told.contains("say 2"));
-  EXPECT_NE(told.contains("NameChanged 2, row 3 column 3"), announces)
-      << "newer screen readers would read out a new name of the focus too";
+  EXPECT_TRUE(told.contains((announces ? "Focus" : "NameChanged") + QString(" 2, row 3 column 3")))
+      << "newer screen readers would read out a new name of the focus";
   act(cell(18), "Press");
   EXPECT_TRUE(told.contains("NameChanged plus, row 3 column 4"));
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList({"2", "plus", "3"}));
-  for (const auto it : {Qt::Key_Minus, Qt::Key_Plus}) key(it);
+  type("-+");
   EXPECT_EQ(heard("say"), QStringList({"2", "3"}));
 
   choose("Set a Puzzle for computer to solve");
@@ -132,7 +132,7 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_TRUE(told.contains("ObjectHide top left correct") &&
               told.contains("ObjectHide top right target " + QString::fromStdString(caption(51))));
   EXPECT_TRUE(told.contains("StateChanged no value, row 1 column 1"));
-  EXPECT_EQ(heard("say"), QStringList("Press each corner to its number, then press Solve Puzzle"));
+  EXPECT_EQ(heard("say"), QStringList("Set each corner to its number, then press Solve Puzzle"));
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
   EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.contains("-"));
   key(Qt::Key_F10);
@@ -178,9 +178,9 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
   QWidget* help = QApplication::activeWindow();
   EXPECT_EQ(help->windowTitle(), "Tessoro Help");
   heard("");
-  for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(help->windowHandle(), it);
+  for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) key(it);
   EXPECT_EQ(heard("say"), QStringList({"the keys, link", "Playing by keys and by ear"}));
-  QTest::keyClick(help->windowHandle(), Qt::Key_Escape);
+  key(Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
 }
 
@@ -193,23 +193,20 @@ TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
     choose("Set a Puzzle for computer to solve");
     answer(box);
   };
-  qsizetype presses = 0;
-  playSolution([&](int index) {
-    const QString row = QString("row %1 ").arg(rowOf(index));
-    const QString column = QString("column %1").arg(columnOf(index));
-    for (const auto& [arrow, place] :
-         std::vector<std::pair<Qt::Key, QString>>{{Qt::Key_Left, "column 1"},
-                                                  {Qt::Key_Up, row},
-                                                  {Qt::Key_Down, row},
-                                                  {Qt::Key_Right, column}}) {
-      for (int step = 0; step < gridSide && !focusedName().contains(place); ++step) key(arrow);
-    }
-    key(Qt::Key_Return);
-    ++presses;
-  });
+  qsizetype typed = 0;
+  for (; messages.empty() && typed < 24; ++typed) {
+    type("n");
+    const QRegularExpression place("row (\\d) column (\\d)");
+    const QRegularExpressionMatch at = place.match(focusedName());
+    const int index = (at.captured(1).toInt() - 1) * gridSide + at.captured(2).toInt();
+    const auto number = std::ranges::find(numberCells, index) - numberCells.begin();
+    const auto op = std::ranges::find(operatorCells, index) - operatorCells.begin();
+    type(QString::fromStdString(number < 17 ? game.state.SolNumbers[number].substr(1)
+                                            : game.state.SolOperators[op]));
+  }
   EXPECT_EQ(messages, std::vector<QString>{"TESSORO: You got it !"});
   EXPECT_TRUE(last.endsWith("is correct. You got it !")) << last.toStdString();
-  EXPECT_EQ(heard("say").size(), presses - 1) << "the last is read out with the box";
+  EXPECT_EQ(heard("say").size(), typed - 1) << "the last is read out with the box";
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList("The puzzle is over"));
   for (const auto it : {Qt::Key_Tab, Qt::Key_Space}) key(it);

@@ -45,7 +45,7 @@ TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
 
 TEST_F(AppearanceTest, TheKeysBringARingAndTheMouseTakesItAway) {
   const double scale = view.devicePixelRatioF();
-  const int line = static_cast<int>(scale);
+  const int line = qRound(scale);
   const QImage plain = picture();
   QTest::keyClick(window.windowHandle(), Qt::Key_Down);
   QImage ringed = plain;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <qpa/qwindowsysteminterface.h>
+
 #include <QtTest>
 #include <QtWidgets>
 
@@ -9,6 +11,10 @@
 #include "program.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
+
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << text.toStdString();
+}
 
 namespace tessoro::test {
 
@@ -64,6 +70,22 @@ struct WindowTest : testing::Test {
   }
   void click(const platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(window.windowHandle(), button, {}, inWindow(control));
+  }
+  /// Presses and releases a key in the window with the focus, each at a time of its own.
+  void key(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) const {
+    static ulong time = 0;
+    settle();
+    const QWidget* active = QApplication::activeWindow();
+    QWindow* to = (active == nullptr ? &window : active)->windowHandle();
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QWindowSystemInterface::handleKeyEvent(to, ++time, type, key, modifiers, text);
+      settle();
+    }
+  }
+  void type(const QString& characters) const {
+    for (const QChar it : characters) {
+      key(it.toUpper().unicode(), it.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, it);
+    }
   }
   void choose(const QString& command) {
     menu.at(command)->trigger();

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QObject>
+#include <QSet>
+
+namespace qt {
+
+/// Keeps away the keys that nobody means, as the event filter of an application:
+///
+/// - A key that is held down presses what has the focus once; its repeats do nothing.
+/// - A box that has just come up takes no key for half a second, nor before all keys have been let
+///   go: they were meant for what was there before, and it may not have been met yet.
+class KeyGuard final : public QObject {
+ public:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool isRepeat(const QKeyEvent& event) const;
+  bool isTooEarly(const QKeyEvent& event) const;
+  void keep(const QKeyEvent& event);
+
+  QSet<int> held_;    ///< the keys that are down
+  int released_ = 0;  ///< the one that came up last, and when, in ms of the events' clock
+  quint64 releasedAt_ = 0;
+  bool boxWaits_ = false;   ///< no key has been meant for the last box yet
+  QElapsedTimer boxShown_;  ///< since it came up
+};
+
+}  // namespace qt
