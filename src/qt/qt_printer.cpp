@@ -150,18 +150,18 @@ QtPrinter::Failure QtPrinter::sendToPrinter(const QString& printer, const QByteA
 }
 
 QtPrinter::Failure QtPrinter::saveAsPdf(const QByteArray& pdf) const {
-  messageBox_("No printer was found; the page can be saved as a PDF file instead.", Buttons::ok);
-  // A home that is not known counts as the root, which is no place for files.
-  const QDir folder = QDir::home().isRoot() ? QDir::temp() : QDir::home();
-  QFileDialog dialog(window_, "Save the page as PDF", folder.filePath(documentName_ + ".pdf"),
-                     "PDF (*.pdf)");
+  messageBox_("No printer was found; the page can be saved as PDF.", Buttons::ok);
+  QFileDialog dialog(window_, "Save the page as PDF", {}, "PDF (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
   dialog.setWindowModality(Qt::WindowModal);
-  // Desktops bring dialogs of their own, and not each asks after it has put the suffix behind.
+  // Asked here instead: desktops bring dialogs of their own, and not each puts the suffix behind
+  // the name before it asks.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  QFileInfo target;
+  // A home that is not known counts as the root, which is no place for files.
+  QFileInfo target(QDir::home().isRoot() ? QDir::temp() : QDir::home(), documentName_ + ".pdf");
   do {
+    dialog.selectFile(target.filePath());
     if (dialog.exec() != QDialog::Accepted) return {};
     target.setFile(dialog.selectedFiles().first());
   } while (target.exists() &&

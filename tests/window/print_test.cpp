@@ -77,7 +77,7 @@ struct PrintTest : WindowTest {
 
 TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   const std::string noPrinter =
-      "TESSORO: No printer was found; the page can be saved as a PDF file instead.\n"
+      "TESSORO: No printer was found; the page can be saved as PDF.\n"
       "Save the page as PDF Tessoro puzzles.pdf PDF (*.pdf)";
   const std::string waiting = "Sending the page to the printer ...";
   const std::string notSent =
