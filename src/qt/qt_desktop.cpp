@@ -71,8 +71,9 @@ QtDesktop::QtDesktop(char* programPath, Program program)
     : program_(std::move(program)),
       arguments_{programPath, nullptr},
       application_(makeApplication()),
-      printer_(toQString(program_.documentName),
-               [this](std::string_view text) { messageBox(text, Buttons::ok); }),
+      printer_(
+          toQString(program_.documentName),
+          [this](std::string_view text, Buttons buttons) { return messageBox(text, buttons); }),
       helpViewer_(
           {QApplication::applicationDirPath(),
            QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
