@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 #include "qt/control_widget.h"
@@ -195,13 +194,13 @@ void FormView::paintEvent(QPaintEvent* event) {
   std::vector<Piece> pieces;
   const QRegion all = pixelRegion(event->region(), toPixels);
   QRegion left = all;
-  for (const Item& item : std::views::reverse(items_)) {
-    if (!item.look.visible) continue;
-    const QRect rect = pixelRectAt(item.place, scale, origin);
+  for (auto item = items_.crbegin(); item != items_.crend(); ++item) {
+    if (!item->look.visible) continue;
+    const QRect rect = pixelRectAt(item->place, scale, origin);
     const QRegion region = left & rect;
     if (region.isEmpty()) continue;
     left -= rect;
-    pieces.push_back({&item, rect, region});
+    pieces.push_back({&*item, rect, region});
   }
   painter.setClipRegion(left);
   painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, palette()));
