@@ -3,7 +3,9 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
+#include <QEventLoop>
 #include <QStatusBar>
+#include <QTimer>
 #include <utility>
 
 namespace qt {
@@ -112,6 +114,13 @@ void Announcer::speak() {
   }
   focusInMenu_ = nullptr;
   say(window_, sentence);
+}
+
+void letKeyBeTakenIn() {
+  if (!QAccessible::isActive()) return;
+  QEventLoop loop;
+  QTimer::singleShot(100, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void setTitle(QWidget& window, const QString& title) {

@@ -137,6 +137,7 @@ bool HelpWindow::showContents(const QString& path) {
     text_->setPlainText(fault);
   }
   text_->clearHistory();
+  letKeyBeTakenIn();
   // It waits until the window has come up.
   announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead
                                       : fault);
@@ -147,7 +148,9 @@ bool HelpWindow::showContents(const QString& path) {
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) close();
+  if (event->key() != Qt::Key_Escape) return;
+  letKeyBeTakenIn();
+  close();
 }
 
 bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,

@@ -1,12 +1,9 @@
 #include "qt/qt_desktop.h"
 
-#include <QAccessible>
-#include <QEventLoop>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
-#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -46,15 +43,6 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const
   std::cerr << qPrintable(QCoreApplication::applicationName()) << ": "
             << (found == obstacles.end() ? qPrintable(said) : found->second) << "\n";
   std::_Exit(EXIT_FAILURE);
-}
-
-/// Screen readers may take in a key only after what it has brought up, and then cut short what they
-/// have begun to say of that. While one listens, waits until it has done with the key.
-void letKeyBeTakenIn() {
-  if (!QAccessible::isActive()) return;
-  QEventLoop loop;
-  QTimer::singleShot(100, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 }  // namespace
