@@ -9,8 +9,11 @@ namespace {
 
 using platform::MouseButton;
 
-/// The characters that a player may expect to set something.
-constexpr std::string_view settingCharacters = "0123456789+-*";
+/// Whether a player may expect the character to set something.
+bool isToSet(char character) {
+  constexpr std::string_view all = "0123456789+-*";
+  return all.find(character) != std::string_view::npos;
+}
 
 }  // namespace
 
@@ -20,7 +23,7 @@ bool KeyCommands::GridDisp_KeyPress(int Index, char character, bool shift) {
     goToEmpty(Index, shift);
     return true;
   }
-  if (settingCharacters.find(character) == std::string_view::npos) return false;
+  if (!isToSet(character)) return false;
   Cell& cell = form_.board.GridDisp[Index];
   const bool counts = roleOf(Index) == CellRole::number || cornerOf(Index) != 0;
   if (!cell.enabled() || (state_.SolveMode && cornerOf(Index) == 0)) {
@@ -40,6 +43,10 @@ bool KeyCommands::button_KeyPress(char character, bool shift) {
   if (character == 'n') {
     // Before the first cell is the last, and the other way round.
     goToEmpty(shift ? gridCells + 1 : 0, shift);
+    return true;
+  }
+  if (isToSet(character)) {
+    narrator_.explainTyping(0);
     return true;
   }
   return ask(character, 0);

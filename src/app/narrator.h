@@ -35,8 +35,8 @@ class Narrator {
   Sentence outcomeOfPress(int cell) const;
 
   // Why a key or a press did nothing: one on a disabled cell; one on the disabled button "Solve
-  // Puzzle"; a character that does not belong in a cell; an arrow key at the edge of the board; the
-  // way to an empty cell where there is none.
+  // Puzzle"; a character that does not belong in cell 1..49, or on the button with 0; an arrow key
+  // at the edge of the board; the way to an empty cell where there is none.
   void explainRefusal(int cell);
   void explainDisabledSolveit();
   void explainTyping(int cell);
