@@ -202,17 +202,18 @@ void FormView::paintEvent(QPaintEvent* event) {
     left -= rect;
     pieces.push_back({&*item, rect, region});
   }
+  const QPalette colours = boardPalette(palette());
   painter.setClipRegion(left);
-  painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, palette()));
+  painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, colours));
   for (const Piece& piece : pieces) {
     painter.setClipRegion(piece.region);
     drawControl(piece.item->control, piece.item->look,
-                {painter, piece.rect, scale, palette(), static_cast<double>(logicalDpiY())});
+                {painter, piece.rect, scale, colours, static_cast<double>(logicalDpiY())});
     ++drawnControls_;
   }
   if (ringed_ != nullptr) {
     painter.setClipRegion(all);
-    drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, palette()});
+    drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, colours});
   }
 }
 

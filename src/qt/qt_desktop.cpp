@@ -18,7 +18,9 @@
 namespace qt {
 namespace {
 
-constexpr int roomForTitle = 170;  // device-independent pixels
+/// Device-independent pixels. The toolkit's own title bars centre the title in a box, and keep room
+/// for three buttons at the right.
+constexpr int roomForTitle = 206;
 
 /// What keeps the toolkit from opening windows, by what it says of it, in the order of what
 /// helps most.
@@ -78,22 +80,26 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
   QMessageBox box(main_.get());
   box.setWindowTitle(toQString(program_.messageTitle));
   box.setText(toQString(text));
-  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                     Qt::WindowCloseButtonHint);
   // Room for the title, which is wider than the shortest texts.
   if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
-  // Modal to the main window alone: help stays readable beside it.
+  // Modal to the main window alone: help stays readable beside it. The toolkit makes the box a
+  // sheet with that, which has no title bar where the program draws its own.
   box.setWindowModality(Qt::WindowModal);
+  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                     Qt::WindowCloseButtonHint);
   box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
                                                 : QMessageBox::Yes | QMessageBox::No);
+  // Else it would be the first, which is No on some desktops.
+  box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
   // A sentence that waits is read out with the text: by itself it would come after the box, and cut
   // it short.
-  const QString sentence = main_ ? main_->announcer().takeSentence() : QString();
-  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
-  if (!sentence.isEmpty() && label != nullptr) {
-    label->setAccessibleName(sentence + ". " + label->text());
+  const QList<QLabel*> labels = box.findChildren<QLabel*>();
+  const auto label = std::ranges::find(labels, box.text(), &QLabel::text);
+  if (main_ && label != labels.end()) {
+    const QString sentence = main_->announcer().takeSentence();
+    if (!sentence.isEmpty()) (*label)->setAccessibleName(sentence + ". " + box.text());
   }
   letKeyBeTakenIn();
   const int answer = box.exec();

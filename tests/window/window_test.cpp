@@ -52,6 +52,20 @@ TEST_F(WindowTest, APressRedrawsOnlyWhatItChanges) {
   }
 }
 
+TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInTheMiddle) {
+  const QSize size = window.size();
+  const auto maximise = [&] {  // as the toolkit's own title bars do
+    window.windowHandle()->setWindowStates(Qt::WindowMaximized);
+    settle();
+  };
+  maximise();
+  EXPECT_TRUE(window.size() == size && window.maximumSize() == size && !window.isMaximized());
+  maximise();
+  EXPECT_GT(window.width(), 2 * size.width());
+  const QPoint middle = view.geometry().center() - view.parentWidget()->rect().center();
+  EXPECT_LE(middle.manhattanLength(), 2);
+}
+
 TEST_F(WindowTest, ClosingItEndsTheProgram) {
   EXPECT_EXIT(window.close(), testing::ExitedWithCode(0), "");
 }
