@@ -31,7 +31,7 @@ void Game::connectEvents() {
     };
     cell.refused = [this, index] { narrator.explainRefusal(index); };
     cell.typed = [this, index](char character, bool shift) {
-      return keyCommands.GridDisp_KeyPress(index, character, shift);
+      return keyCommands.typedOnCell(index, character, shift);
     };
   }
   form.NewPuz.click = [this] {
@@ -54,7 +54,7 @@ void Game::connectEvents() {
   };
   for (Cell* button : {&form.NewPuz, &form.Solveit}) {
     button->typed = [this](char character, bool shift) {
-      return keyCommands.button_KeyPress(character, shift);
+      return keyCommands.typedOnButton(character, shift);
     };
   }
   form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };

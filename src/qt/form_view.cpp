@@ -94,7 +94,7 @@ void FormView::add(DrawnControl control, const platform::Place& place) {
   const platform::Accessible& accessible = base(control).accessible;
   if (accessible.role == platform::Accessible::Role::none) return;
   item.widget = new ControlWidget(control, place, *this);
-  // For this reason the toolkit counts it as use of the keyboard.
+  // As Tab would, which the toolkit counts as use of the keyboard.
   base(control).focusWanted = [widget = item.widget] { widget->setFocus(Qt::TabFocusReason); };
   if (current_ == nullptr && accessible.inGrid) setCurrent(item.widget);
 }

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -14,12 +15,14 @@
 #include "qt/form_dialog.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {
 
 /// Device-independent pixels. The toolkit's own title bars centre the title in a box, and keep room
 /// for three buttons at the right.
+constexpr int pauseAfterKeys = 500;  // milliseconds
 constexpr int roomForTitle = 206;
 
 /// What keeps the toolkit from opening windows, by what it says of it, in the order of what
@@ -95,14 +98,24 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
   box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
   // A sentence that waits is read out with the text: by itself it would come after the box, and cut
   // it short.
+  QString words = box.text();
   const QList<QLabel*> labels = box.findChildren<QLabel*>();
-  const auto label = std::ranges::find(labels, box.text(), &QLabel::text);
+  const auto label = std::ranges::find(labels, words, &QLabel::text);
   if (main_ && label != labels.end()) {
     const QString sentence = main_->announcer().takeSentence();
-    if (!sentence.isEmpty()) (*label)->setAccessibleName(sentence + ". " + box.text());
+    if (!sentence.isEmpty()) words.prepend(sentence + ". ");
+    (*label)->setAccessibleName(words);
   }
+  // A key that is kept away from the box cuts short what is said of it all the same.
+  Announcer announcer(box);
+  QTimer pause;
+  pause.setSingleShot(true);
+  pause.setInterval(pauseAfterKeys);
+  QObject::connect(&pause, &QTimer::timeout, [&] { announcer.announce(words); });
+  keyGuard_.keptFromBox = [&] { pause.start(); };
   letKeyBeTakenIn();
   const int answer = box.exec();
+  keyGuard_.keptFromBox = nullptr;
   if (buttons == Buttons::ok) return Answer::ok;
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
