@@ -33,6 +33,8 @@ FormWindow::FormWindow(platform::Form& form)
   middle->setContentsMargins({});
   middle->addWidget(view_, 0, 0, Qt::AlignCenter);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
+  // Stated, so that the pointer of a box that has closed under it cannot stay.
+  setCursor(Qt::ArrowCursor);
   // The toolkit's own title bars maximise windows of a fixed size too, whatever flags they have. As
   // soon as one is about to, the size is let go, since some desktops end a program that does not
   // take the size they state.

@@ -1,5 +1,6 @@
 #include "qt/qt_desktop.h"
 
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QLabel>
 #include <QMessageBox>
@@ -37,17 +38,30 @@ constexpr std::array<std::pair<const char*, const char*>, 3> obstacles{{
      "cannot open a window, because there is no display to open it on."},
 }};
 
+[[noreturn]] void endFor(const char* obstacle) {
+  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": " << obstacle << "\n";
+  std::_Exit(EXIT_FAILURE);
+}
+
+/// What the toolkit has said during its start.
+QString& heldMessages() {
+  static QString messages;
+  return messages;
+}
+
 /// The toolkit aborts where it can open no window, which would leave a core dump and paragraphs of
-/// plug-in names instead of the one fact that matters. What is not known here is told in its words.
-void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
-  static QString said;
-  said += message.trimmed() + '\n';
+/// plug-in names instead of the one fact that matters. What is not known here is told in its words,
+/// but for warnings of no category, such as that of the locale, which are not why.
+void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  static QString reasons;
+  heldMessages() += qFormatLogMessage(type, context, message) + '\n';
+  if (type == QtFatalMsg || QByteArrayView(context.category).startsWith("qt.")) {
+    reasons += message.trimmed() + '\n';
+  }
   if (type != QtFatalMsg) return;
   const auto* const found = std::ranges::find_if(
-      obstacles, [&](const auto& obstacle) { return said.contains(obstacle.first); });
-  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": "
-            << (found == obstacles.end() ? qPrintable(said) : found->second) << "\n";
-  std::_Exit(EXIT_FAILURE);
+      obstacles, [](const auto& obstacle) { return heldMessages().contains(obstacle.first); });
+  endFor(found == obstacles.end() ? qPrintable(reasons) : found->second);
 }
 
 }  // namespace
@@ -55,8 +69,17 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& /*context*/, const
 std::unique_ptr<QApplication> QtDesktop::makeApplication() {
   QCoreApplication::setApplicationName(toQString(program_.name));
   const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
+<<<<<<< HEAD
   auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
+=======
+  auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+  if (!QFontMetrics(QApplication::font()).inFont('0')) {
+    endFor(
+        "cannot show any text, because no font is installed; install the package "
+        "fonts-liberation.");
+  }
   qInstallMessageHandler(handler);
+  std::cerr << qPrintable(std::exchange(heldMessages(), {}));
   return application;
 }
 
