@@ -103,9 +103,10 @@ TEST_F(SpeechTest, ACharacterSetsAsksOrTellsWhyNot) {
           {46, "+n", "The puzzle is over | The puzzle is over"},
           {3, "+", "The puzzle is over"}});
   form.SolveMx.choose();
+  form.Solveit.press({});
   expect({{46, "+n",
-           "Set each corner to its number, then press Solve Puzzle | Only corners are set in this "
-           "mode | 49"},
+           "Set each corner to its number, then press Solve Puzzle | Set the corners first | Only "
+           "corners are set in this mode | 49"},
           {49, "3+*n", "3 | 4 | " + digitsOnly + " | 1"},
           {-1, "tN",
            "Corners: top left no value, top right no value, bottom left no value, bottom right 4 | "
