@@ -30,6 +30,8 @@ void Game::connectEvents() {
                        narrator.outcomeOfPress(index));
     };
     cell.refused = [this, index] { narrator.explainRefusal(index); };
+    // A screen reader may give the focus to what stands beside the grid, too.
+    if (index < 1 || index > gridCells) continue;
     cell.typed = [this, index](char character, bool shift) {
       return keyCommands.typedOnCell(index, character, shift);
     };

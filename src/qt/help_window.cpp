@@ -124,7 +124,6 @@ HelpWindow::HelpWindow() : text_(new HelpText(this, announcer_)) {
   for (QAction* action : {contents, back}) {
     bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
   }
-  text_->setFocus();
 }
 
 bool HelpWindow::showContents(const QString& path) {
@@ -138,6 +137,7 @@ bool HelpWindow::showContents(const QString& path) {
     text_->setPlainText(fault);
   }
   text_->clearHistory();
+  text_->setFocus();  // which may have been left on a button
   letKeyBeTakenIn();
   // It waits until the window has come up.
   announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead

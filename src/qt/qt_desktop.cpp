@@ -69,10 +69,7 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QSt
 std::unique_ptr<QApplication> QtDesktop::makeApplication() {
   QCoreApplication::setApplicationName(toQString(program_.name));
   const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
-<<<<<<< HEAD
   auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
-=======
-  auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
   if (!QFontMetrics(QApplication::font()).inFont('0')) {
     endFor(
         "cannot show any text, because no font is installed; install the package "
