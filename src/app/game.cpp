@@ -33,7 +33,7 @@ void Game::connectEvents() {
     // A screen reader may give the focus to what stands beside the grid, too.
     if (index < 1 || index > gridCells) continue;
     cell.typed = [this, index](char character, bool shift) {
-      return keyCommands.GridDisp_KeyPress(index, character, shift);
+      return keyCommands.typedOnCell(index, character, shift);
     };
   }
   form.NewPuz.click = [this] {
@@ -56,7 +56,7 @@ void Game::connectEvents() {
   };
   for (Cell* button : {&form.NewPuz, &form.Solveit}) {
     button->typed = [this](char character, bool shift) {
-      return keyCommands.button_KeyPress(character, shift);
+      return keyCommands.typedOnButton(character, shift);
     };
   }
   form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };

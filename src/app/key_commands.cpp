@@ -17,29 +17,32 @@ bool isToSet(char character) {
 
 }  // namespace
 
-bool KeyCommands::GridDisp_KeyPress(int Index, char character, bool shift) {
-  if (ask(character, Index)) return true;
+bool KeyCommands::typedOnCell(int index, char character, bool shift) {
+  if (ask(character, index)) return true;
   if (character == 'n') {
-    goToEmpty(Index, shift);
+    goToEmpty(index, shift);
     return true;
   }
   if (!isToSet(character)) return false;
-  Cell& cell = form_.board.GridDisp[Index];
-  const bool counts = roleOf(Index) == CellRole::number || cornerOf(Index) != 0;
-  if (!cell.enabled() || (state_.SolveMode && cornerOf(Index) == 0)) {
-    cell.press({});  // which tells why nothing is set here
-  } else if (moves_.canShow(Index, character)) {
-    narrator_.narrate([&] { moves_.GridDisp_KeyPress(Index, character); },
-                      narrator_.outcomeOfPress(Index));
-  } else if (counts && (character == '+' || character == '-')) {
+  Cell& cell = form_.board.GridDisp[index];
+  // A board that takes nothing at all says so, whatever is typed; so does what is no corner while
+  // the user states a puzzle.
+  const bool isRefused = state_.SolveMode ? cornerOf(index) == 0 : state_.BoardLocked;
+  const bool isNumber = roleOf(index) == CellRole::number || cornerOf(index) != 0;
+  if (!cell.enabled()) {
+    narrator_.explainRefusal(index);
+  } else if (isRefused || moves_.canShow(index, character)) {
+    narrator_.narrate([&] { moves_.showCharacter(index, character); },
+                      narrator_.outcomeOfPress(index));
+  } else if (isNumber && (character == '+' || character == '-')) {
     cell.press({.button = character == '+' ? MouseButton::left : MouseButton::right});
   } else {
-    narrator_.explainTyping(Index);
+    narrator_.explainTyping(index);
   }
   return true;
 }
 
-bool KeyCommands::button_KeyPress(char character, bool shift) {
+bool KeyCommands::typedOnButton(char character, bool shift) {
   if (character == 'n') {
     // Before the first cell is the last, and the other way round.
     goToEmpty(shift ? gridCells + 1 : 0, shift);
@@ -73,6 +76,7 @@ void KeyCommands::goToEmpty(int from, bool backwards) {
     index += backwards ? -1 : 1;
     if (index < 1) index = gridCells;
     if (index > gridCells) index = 1;
+    if (index == from) break;
     if (isToBeSet(index)) return form_.board.GridDisp[index].SetFocus();
   }
   narrator_.explainNoneEmpty();

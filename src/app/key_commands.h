@@ -11,14 +11,14 @@ namespace tessoro {
 /// lead to the next cell that is empty.
 class KeyCommands {
  public:
-  KeyCommands(Form1& form, PuzzleState& state, Moves& moves, Narrator& narrator)
+  KeyCommands(Form1& form, const PuzzleState& state, Moves& moves, Narrator& narrator)
       : form_(form), state_(state), moves_(moves), narrator_(narrator) {}
 
   /// A character, letters small, was typed on cell 1..49; `shift` tells whether that key was down.
   /// The result is whether it means anything there.
-  bool GridDisp_KeyPress(int Index, char character, bool shift);
+  bool typedOnCell(int index, char character, bool shift);
   /// The same for the button below the board.
-  bool button_KeyPress(char character, bool shift);
+  bool typedOnButton(char character, bool shift);
 
  private:
   bool ask(char question, int index);
@@ -26,7 +26,7 @@ class KeyCommands {
   bool isToBeSet(int index) const;
 
   Form1& form_;
-  PuzzleState& state_;
+  const PuzzleState& state_;
   Moves& moves_;
   Narrator& narrator_;
 };

@@ -29,7 +29,7 @@ std::string lineOf(int cell) {
 }
 
 /// What a result cell shows, as the end of a clause.
-std::string valueClause(const std::string& result) {
+std::string changedValue(const std::string& result) {
   return result == noValue             ? " has no value"
          : isDigit(readNumber(result)) ? " is " + result
                                        : " is full, " + result;
@@ -42,8 +42,7 @@ void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
   // ignored then: the search is about to replace both.
   if (search_.underWay()) return;
   const auto announceOutcome = [&] {
-    const std::string sentence = outcome ? std::exchange(outcome, nullptr)() : "";
-    if (!sentence.empty()) say(sentence);
+    if (outcome) say(std::exchange(outcome, nullptr)());
   };
   // Boxes that come up while a search yields are not the handler's.
   desktop_.boxOpens = [&] {
@@ -55,6 +54,8 @@ void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
 }
 
 void Narrator::say(const std::string& sentence) {
+  // A search replaces what there is to be told of.
+  if (sentence.empty() || search_.underWay()) return;
   last_ = sentence;
   desktop_.announce(sentence);
 }
@@ -98,7 +99,7 @@ std::string Narrator::changesSince(const Heard& before) const {
   };
   for (int cell = 1; cell <= gridCells; ++cell) {
     if (now.results[cell] == before.results[cell]) continue;
-    words += ", " + lineOf(cell) + valueClause(now.results[cell]);
+    words += ", " + lineOf(cell) + changedValue(now.results[cell]);
     const int k = cornerOf(cell);
     const bool stillWrong =
         now.corners[k] == Standing::wrong && before.corners[k] == Standing::wrong;
@@ -113,10 +114,12 @@ std::string Narrator::changesSince(const Heard& before) const {
 }
 
 void Narrator::explainRefusal(int cell) {
-  say(std::string(state_.SolveMode                   ? onlyCorners
-                  : roleOf(cell) == CellRole::number ? "This number is given"
-                  : roleOf(cell) == CellRole::equals ? "Nothing is set here"
-                                                     : "Results are worked out, not set"));
+  const CellRole role = roleOf(cell);
+  say(std::string(state_.SolveMode                ? onlyCorners
+                  : role == CellRole::number      ? "This number is given"
+                  : role == CellRole::equals      ? "Nothing is set here"
+                  : role == CellRole::outerCorner ? "This is the number to reach"
+                                                  : "Results are worked out, not set"));
 }
 
 void Narrator::explainDisabledSolveit() {
@@ -138,7 +141,7 @@ void Narrator::explainEdge() {
 }
 
 void Narrator::explainNoneEmpty() {
-  say(state_.BoardLocked ? "The puzzle is over" : "No cell is empty");
+  say(state_.BoardLocked && !state_.SolveMode ? "The puzzle is over" : "No other cell is empty");
 }
 
 void Narrator::tellRow(int row) {

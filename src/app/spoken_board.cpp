@@ -67,19 +67,17 @@ std::string standing(const Board& board, int k) {
 }
 
 /// The end of a line: its value, and how that stands to the puzzle if it is a corner.
-std::string spokenResult(const Line& line) {
+std::string endOfLine(const Line& line) {
   const int result = line.cellAt(6);
-  const std::string& caption = line.captionAt(6);
-  const bool isNumber = readNumber(caption) != 0;
-  std::string words = !line.isFull() ? ", " + std::string(noValue)
-                      : isNumber     ? " is " + caption
-                                     : ", " + spokenCell(line.board, result);
   const int k = cornerOf(result);
-  if (k == 0) return words;
-  // Before play has begun, what the corner shows is its target.
-  const std::string now = standing(line.board, k);
-  const bool begun = !now.empty() || line.isFull() || !isNumber;
-  return words + (begun ? now : ", target " + caption);
+  const std::string& caption = line.captionAt(6);
+  const std::string now = k == 0 ? "" : standing(line.board, k);
+  if (readNumber(caption) != 0) {
+    // Before play has begun, what a corner shows is its target.
+    const bool isTarget = k != 0 && now.empty() && !line.isFull();
+    return isTarget ? ", " + std::string(noValue) + ", target " + caption : " is " + caption + now;
+  }
+  return ", " + (caption.empty() ? std::string(noValue) : spokenCell(line.board, result)) + now;
 }
 
 std::string spokenLine(const std::string& name, const Line& line) {
@@ -90,7 +88,7 @@ std::string spokenLine(const std::string& name, const Line& line) {
     if (roleOf(cell) == CellRole::hole) continue;
     words += (ends || place == 0 ? " " : ", ") + spokenCell(line.board, cell);
   }
-  return ends ? words + spokenResult(line) : words;
+  return ends ? words + endOfLine(line) : words;
 }
 
 Accessible::Action press() {
@@ -156,6 +154,8 @@ std::string spoken(const std::string& caption) {
 std::string spokenCell(const Board& board, int cell) {
   const std::string& caption = board.GridDisp[cell].caption();
   if (caption != noNumber) return spoken(caption);
+  // One that the user has yet to state.
+  if (cornerOf(cell) != 0 && standing(board, cornerOf(cell)).empty()) return "not set";
   bool full = false;
   for (const Line& line : linesEndingIn(board, cell)) {
     // The grand result has no value while any other has none.

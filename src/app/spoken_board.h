@@ -17,8 +17,9 @@ void describeForScreenReaders(Form1& form);
 /// A caption in words: "empty", "no value", "plus"; digits stay as they are.
 std::string spoken(const std::string& caption);
 
-/// What cell 1..49 shows in words: its caption, but "no digit" instead of "no value" where a line
-/// that ends there is full. Whoever sees the board knows which it is.
+/// What cell 1..49 shows in words: its caption, but for "?" also "no digit", where a line that ends
+/// there is full, and "not set" in a corner that the user has yet to state. Whoever sees the board
+/// knows which it is.
 std::string spokenCell(const Board& board, int cell);
 
 /// The names of the corners k = 1..4 of the board, "top left" and so on.

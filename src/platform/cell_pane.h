@@ -9,11 +9,12 @@
 
 namespace platform {
 
-/// A display cell: a short text in its own colours and border that reports mouse input.
+/// A display cell: a short text in its own colours and border that reports mouse input and typed
+/// characters.
 ///
-/// The window that shows it passes every mouse press and release on; which of them become events
-/// is decided here, so a disabled or hidden cell is silent whatever shows it. A cell with a
-/// `click` handler is a button: it draws its caption greyed while disabled.
+/// The window that shows it passes every mouse press and release on; which presses and
+/// releases become events is decided here, so a disabled or hidden cell is silent whatever shows
+/// it. A cell with a `click` handler is a button: it draws its caption greyed while disabled.
 class CellPane final : public Control {
  public:
   Property<std::string> caption{*this, ""};

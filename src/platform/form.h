@@ -41,7 +41,7 @@ class Form : public Observable {
   std::function<void()> unload;
   /// The user has asked for help, by its key.
   std::function<void()> help;
-  /// A key would have led beyond the edge of the grid of controls.
+  /// A key leads nowhere: beyond the edge of the grid of controls, or from a control outside it.
   std::function<void()> edgeReached;
 
  protected:

@@ -39,9 +39,9 @@ bool Moves::canShow(int index, char character) const {
   return isNumber && isDigit(character - '0');
 }
 
-void Moves::GridDisp_KeyPress(int Index, char character) {
+void Moves::showCharacter(int index, char character) {
   const std::string caption(1, character);
-  if (board_.GridDisp[Index].caption() != caption) setCell(Index, caption);
+  if (board_.GridDisp[index].caption() != caption) setCell(index, caption);
 }
 
 bool Moves::isOperator(int index) const {

@@ -33,7 +33,7 @@ class Moves {
   bool canShow(int index, char character) const;
   /// Has the cell show a character that can stand there, in one move: as if it had stood one step
   /// before and had been pressed with the left button. One that stands there already is no move.
-  void GridDisp_KeyPress(int Index, char character);
+  void showCharacter(int index, char character);
 
  private:
   bool isOperator(int index) const;

@@ -3,19 +3,17 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QEvent>
-#include <QEventLoop>
 #include <QStatusBar>
-#include <QTimer>
 #include <utility>
 
 namespace qt {
 namespace {
 
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+/// From this version on the toolkit's events of new names carry the name, and screen readers read
+/// it out where it is that of the focus or the window. Its event for sentences is as old.
+constexpr bool readsNewNames = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
-/// The toolkit's events of new names carry the name, and screen readers read it out where it is
-/// that of the focus or the window.
-constexpr bool readsNewNames = true;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
 void say(QWidget& window, const QString& sentence) {
   QAccessibleAnnouncementEvent event(&window, sentence);
@@ -26,8 +24,6 @@ void say(QWidget& window, const QString& sentence) {
 void forget(QWidget& /*window*/) {}
 
 #else
-
-constexpr bool readsNewNames = false;
 
 /// Of a widget that screen readers read out whenever it is shown, since the toolkit has no event
 /// for sentences.
@@ -114,13 +110,6 @@ void Announcer::speak() {
   }
   focusInMenu_ = nullptr;
   say(window_, sentence);
-}
-
-void letKeyBeTakenIn() {
-  if (!QAccessible::isActive()) return;
-  QEventLoop loop;
-  QTimer::singleShot(100, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 void setTitle(QWidget& window, const QString& title) {

@@ -40,10 +40,6 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   const QWidget* focusInMenu_ = nullptr;  ///< what had the focus when the menu closed
 };
 
-/// Screen readers may take in a key only after what it has brought about, and then cut short what
-/// they have begun to say of that. While one listens, waits until it has done with the key. To be
-/// called before a window comes or goes.
-void letKeyBeTakenIn();
 /// Sets the title of a window. Screen readers that would read it out are not told: a sentence says
 /// what has changed.
 void setTitle(QWidget& window, const QString& title);

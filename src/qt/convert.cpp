@@ -1,7 +1,10 @@
 #include "qt/convert.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <initializer_list>
 
 namespace qt {
 namespace {
@@ -18,7 +21,59 @@ QRgb pixelColour(char pixel) {
   return plainColour(platform::palette[index]).rgb();
 }
 
+/// The relative luminance of the colour on the screen, 0 to 1, and 0.05 for what the screen
+/// reflects.
+double brightness(const QColor& colour) {
+  const auto linear = [](int part) {
+    return part <= 10 ? part / 255.0 / 12.92 : std::pow((part / 255.0 + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.red()) + 0.7152 * linear(colour.green()) +
+         0.0722 * linear(colour.blue()) + 0.05;
+}
+
+/// How much two colours stand out from each other: from 1 for the same to 21 for black and white.
+double contrast(const QColor& one, const QColor& other) {
+  const auto [less, more] = std::minmax({brightness(one), brightness(other)});
+  return more / less;
+}
+
+/// The theme's colour where it stands out from the face, else the nearest shade of the face that
+/// does: on the way to the first of two colours, or, where that is too near, to the second.
+QColor standingOut(const QColor& own, const QColor& face, double least,
+                   std::initializer_list<QColor> ends) {
+  if (contrast(own, face) >= least) return own;
+  for (const QColor& end : ends) {
+    for (int step = 1; step <= 64; ++step) {
+      const auto part = [&](int from, int to) { return from + (to - from) * step / 64; };
+      const QColor shade(part(face.red(), end.red()), part(face.green(), end.green()),
+                         part(face.blue(), end.blue()));
+      if (contrast(shade, face) >= least) return shade;
+    }
+  }
+  return own;
+}
+
 }  // namespace
+
+QPalette boardPalette(QPalette palette) {
+  // What the toolkit's own style has: 1.15 for the highlight, 2.29 for the shadow.
+  static const QColor usualFace(239, 239, 239);
+  static const double leastHighlight = contrast(Qt::white, usualFace);
+  static const double leastShadow = contrast(QColor(159, 159, 159), usualFace);
+  palette.setCurrentColorGroup(QPalette::Active);
+  const QColor face = palette.color(QPalette::Button);
+  const QColor shadow =
+      standingOut(palette.color(QPalette::Dark), face, leastShadow, {Qt::black, Qt::white});
+  // Nothing is much darker than a dark face. The shadow is lighter there, and the highlight more
+  // so, which keeps the light coming from the top left.
+  const bool isLighter = brightness(shadow) > brightness(face);
+  const QColor highlight =
+      standingOut(palette.color(QPalette::Light), face,
+                  leastHighlight * (isLighter ? leastShadow : 1), {Qt::white, Qt::black});
+  palette.setColor(QPalette::Light, highlight);
+  palette.setColor(QPalette::Dark, shadow);
+  return palette;
+}
 
 QColor toQColor(platform::Colour colour, const QPalette& palette) {
   if (colour == platform::windowText) return palette.color(QPalette::WindowText);

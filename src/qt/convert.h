@@ -24,6 +24,11 @@ inline QString toQString(std::string_view text) {
 /// The colour; those of the theme are taken from the palette.
 QColor toQColor(platform::Colour colour, const QPalette& palette);
 
+/// The palette as the board is drawn with it: its active colours, whether or not a box is open over
+/// the window, and a highlight and a shadow that stand out from the button face. Themes that draw
+/// no such borders themselves have colours for them that can hardly be told from it.
+QPalette boardPalette(QPalette palette);
+
 /// The font at the given number of device pixels to a device-independent one. `logicalDpi` is what
 /// the toolkit takes a point to be a 72nd of; text keeps its proportion to the twips whatever that
 /// is.

@@ -36,25 +36,25 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
 /// Where a key leads in the grid: so many steps to the right, then downwards, each a single one or
 /// on to the edge.
 struct Way {
-  int key;
-  bool control;
+  int key = 0;
+  bool control = false;
   QPoint across;
   QPoint down;
-  bool toEdge;
+  bool toEdge = false;
 };
 constexpr QPoint stay(0, 0);
-constexpr QPoint left(-1, 0);
-constexpr QPoint right(1, 0);
-constexpr QPoint up(0, -1);
-constexpr QPoint down(0, 1);
-constexpr std::array<Way, 8> ways{{{Qt::Key_Left, false, left, stay, false},
-                                   {Qt::Key_Right, false, right, stay, false},
-                                   {Qt::Key_Up, false, stay, up, false},
-                                   {Qt::Key_Down, false, stay, down, false},
-                                   {Qt::Key_Home, false, left, stay, true},
-                                   {Qt::Key_End, false, right, stay, true},
-                                   {Qt::Key_Home, true, left, up, true},
-                                   {Qt::Key_End, true, right, down, true}}};
+constexpr QPoint toLeft(-1, 0);
+constexpr QPoint toRight(1, 0);
+constexpr QPoint upwards(0, -1);
+constexpr QPoint downwards(0, 1);
+constexpr std::array<Way, 8> ways{{{Qt::Key_Left, false, toLeft, stay, false},
+                                   {Qt::Key_Right, false, toRight, stay, false},
+                                   {Qt::Key_Up, false, stay, upwards, false},
+                                   {Qt::Key_Down, false, stay, downwards, false},
+                                   {Qt::Key_Home, false, toLeft, stay, true},
+                                   {Qt::Key_End, false, toRight, stay, true},
+                                   {Qt::Key_Home, true, toLeft, upwards, true},
+                                   {Qt::Key_End, true, toRight, downwards, true}}};
 
 }  // namespace
 
@@ -81,7 +81,7 @@ FormView::~FormView() {
 // Drawing
 
 void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
-  const auto addAtPlace = [&](auto* control) {
+  const auto addAtPlace = [this, &holder](auto* control) {
     const auto& [left, top, width, height] = control->place;
     add(control, {holder.left + left, holder.top + top, width, height});
   };
@@ -94,7 +94,7 @@ void FormView::add(DrawnControl control, const platform::Place& place) {
   const platform::Accessible& accessible = base(control).accessible;
   if (accessible.role == platform::Accessible::Role::none) return;
   item.widget = new ControlWidget(control, place, *this);
-  // For this reason the toolkit counts it as use of the keyboard.
+  // As Tab would, which the toolkit counts as use of the keyboard.
   base(control).focusWanted = [widget = item.widget] { widget->setFocus(Qt::TabFocusReason); };
   if (current_ == nullptr && accessible.inGrid) setCurrent(item.widget);
 }
@@ -194,25 +194,27 @@ void FormView::paintEvent(QPaintEvent* event) {
   std::vector<Piece> pieces;
   const QRegion all = pixelRegion(event->region(), toPixels);
   QRegion left = all;
-  for (auto item = items_.crbegin(); item != items_.crend(); ++item) {
-    if (!item->look.visible) continue;
-    const QRect rect = pixelRectAt(item->place, scale, origin);
+  for (std::size_t i = items_.size(); i-- > 0;) {
+    const Item& item = items_[i];
+    if (!item.look.visible) continue;
+    const QRect rect = pixelRectAt(item.place, scale, origin);
     const QRegion region = left & rect;
     if (region.isEmpty()) continue;
     left -= rect;
-    pieces.push_back({&*item, rect, region});
+    pieces.push_back({&item, rect, region});
   }
+  const QPalette colours = boardPalette(palette());
   painter.setClipRegion(left);
-  painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, palette()));
+  painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, colours));
   for (const Piece& piece : pieces) {
     painter.setClipRegion(piece.region);
     drawControl(piece.item->control, piece.item->look,
-                {painter, piece.rect, scale, palette(), static_cast<double>(logicalDpiY())});
+                {painter, piece.rect, scale, colours, static_cast<double>(logicalDpiY())});
     ++drawnControls_;
   }
   if (ringed_ != nullptr) {
     painter.setClipRegion(all);
-    drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, palette()});
+    drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, colours});
   }
 }
 

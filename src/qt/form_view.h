@@ -81,7 +81,7 @@ class FormView final : public QWidget {
   // The keys.
   void setCurrent(ControlWidget* widget);
   void focusMoved();
-  /// The next control of the grid to the right and downwards; none beyond the edge.
+  /// The next control of the grid in the direction, a step of one; none beyond the edge.
   ControlWidget* neighbour(const ControlWidget& of, QPoint direction) const;
 
   ControlWidget* current_ = nullptr;       ///< the one of the grid that Tab reaches

@@ -2,10 +2,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGridLayout>
 #include <QKeyEvent>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QWindow>
 #include <algorithm>
 
 #include "qt/convert.h"
@@ -26,8 +27,21 @@ FormWindow::FormWindow(platform::Form& form)
   for (const platform::MenuItem* menu : form.menus) {
     addMenu(*menuBar()->addMenu(toQString(menu->caption())), *menu);
   }
-  setCentralWidget(view_);
+  // In the middle, where a desktop makes the window larger than it asks to be.
+  setCentralWidget(new QWidget);
+  auto* middle = new QGridLayout(centralWidget());
+  middle->setContentsMargins({});
+  middle->addWidget(view_, 0, 0, Qt::AlignCenter);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
+  // The toolkit's own title bars maximise windows of a fixed size too, whatever flags they have. As
+  // soon as one is about to, the size is let go, since some desktops end a program that does not
+  // take the size they state.
+  create();
+  connect(windowHandle(), &QWindow::windowStateChanged, this, [this](Qt::WindowState state) {
+    if (state != Qt::WindowMaximized) return;
+    layout()->setSizeConstraint(QLayout::SetMinimumSize);
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  });
 }
 
 FormWindow::~FormWindow() {
@@ -106,6 +120,17 @@ void FormWindow::openMenu() {
   const auto item = std::ranges::find_if(
       items, [](const QAction* it) { return it->isEnabled() && !it->isSeparator(); });
   if (item != items.end()) first->menu()->setActiveAction(*item);
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange) return;
+  if (!isMaximized() && !isFullScreen()) layout()->setSizeConstraint(QLayout::SetFixedSize);
+  if (!isMaximized() || !restored_.hasExpired()) return;
+  restored_.setRemainingTime(1000);
+  // Once the new size has been taken, as a desktop may insist on it.
+  QMetaObject::invokeMethod(
+      this, [this] { windowHandle()->setWindowStates(Qt::WindowNoState); }, Qt::QueuedConnection);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

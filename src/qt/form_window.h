@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <vector>
 
@@ -20,6 +21,7 @@ class FormWindow final : public QMainWindow {
   Announcer& announcer() { return announcer_; }
 
  protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -31,6 +33,7 @@ class FormWindow final : public QMainWindow {
   platform::Form& form_;
   std::vector<platform::MenuItem*> items_;  ///< those that this window shows
   FormView* view_;
+  QDeadlineTimer restored_;  ///< until when the desktop is let have its way
   Announcer announcer_{*this};
 };
 

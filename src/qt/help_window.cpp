@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "qt/convert.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {

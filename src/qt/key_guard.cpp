@@ -12,10 +12,18 @@ namespace qt {
 namespace {
 
 constexpr int boxPatience = 500;  // milliseconds
+/// Within which a key that is held down begins to repeat, in milliseconds.
+constexpr int longestDelay = 1000;
 
 /// The keys that go on while they are held down.
 constexpr std::array<int, 6> leadingKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
                                          Qt::Key_Down, Qt::Key_Tab,   Qt::Key_Backtab};
+
+/// What stays the same from a key's press to its release: with Shift let go in between, its name
+/// does not.
+quint32 idOf(const QKeyEvent& event) {
+  return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<quint32>(event.key());
+}
 
 bool pressesSomething(int key) {
   const QWidget* focused = QApplication::focusWidget();
@@ -27,8 +35,6 @@ bool pressesSomething(int key) {
 }  // namespace
 
 bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
-  // A key that comes up in another program is not told here.
-  if (event->type() == QEvent::ApplicationStateChange) held_.clear();
   const auto* window = qobject_cast<QWindow*>(watched);
   if (window == nullptr) return false;
   const bool isBox = window->modality() != Qt::NonModal;
@@ -36,19 +42,26 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
     boxWaits_ = true;
     boxShown_.start();
   }
-  const auto* key = dynamic_cast<QKeyEvent*>(event);
+  auto* key = dynamic_cast<QKeyEvent*>(event);
   if (key == nullptr) return false;
+  // While a screen reader listens to the keyboard, another filter may be ahead of this one, and
+  // pass on nothing but copies, which do not tell their time.
+  if (!key->spontaneous()) {
+    const auto goAhead = [this] { qApp->installEventFilter(this); };
+    QMetaObject::invokeMethod(this, goAhead, Qt::QueuedConnection);
+  }
   const bool tooEarly = isBox && isTooEarly(*key);
   const bool repeat = isRepeat(*key);
-  // While a screen reader listens to the keyboard, each event comes a second time, without its
-  // time.
-  if (key->spontaneous()) keep(*key);
+  keep(*key);
   if (event->type() == QEvent::ShortcutOverride && tooEarly) {
     event->accept();  // it is no shortcut either
     return true;
   }
   if (event->type() != QEvent::KeyPress) return false;
-  if (tooEarly) return true;
+  if (tooEarly) {
+    if (keptFromBox) keptFromBox();
+    return true;
+  }
   if (isBox && !repeat) boxWaits_ = false;
   return repeat && pressesSomething(key->key());
 }
@@ -56,21 +69,28 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
 /// Where the next press of a key that is held down has not arrived yet, the X server's repeats are
 /// not marked as such; but they come at the very time of the release that goes with them.
 bool KeyGuard::isRepeat(const QKeyEvent& event) const {
-  return event.isAutoRepeat() || (event.type() == QEvent::KeyPress && event.key() == released_ &&
+  return event.isAutoRepeat() || (event.type() == QEvent::KeyPress && idOf(event) == released_ &&
                                   event.timestamp() == releasedAt_);
 }
 
 bool KeyGuard::isTooEarly(const QKeyEvent& event) const {
-  const bool otherHeld = std::ranges::any_of(held_, [&](int key) { return key != event.key(); });
-  return boxWaits_ && (boxShown_.elapsed() < boxPatience || otherHeld || isRepeat(event));
+  const auto isOtherDown = [&](const auto& held) {
+    return held.first != idOf(event) && !held.second.hasExpired();
+  };
+  return boxWaits_ &&
+         (boxShown_.elapsed() < boxPatience || isRepeat(event) ||
+          std::any_of(held_.constKeyValueBegin(), held_.constKeyValueEnd(), isOtherDown));
 }
 
+/// A key may come up unnoticed, in another program or while the focus goes to another window. One
+/// that is down repeats, so it counts as let go when nothing has been heard of it for a second.
 void KeyGuard::keep(const QKeyEvent& event) {
   if (event.type() == QEvent::KeyPress) {
-    held_.insert(event.key());
+    held_[idOf(event)] = QDeadlineTimer(longestDelay);
   } else if (event.type() == QEvent::KeyRelease && !event.isAutoRepeat()) {
-    held_.remove(event.key());
-    released_ = event.key();
+    held_.remove(idOf(event));
+    if (event.timestamp() == 0) return;
+    released_ = idOf(event);
     releasedAt_ = event.timestamp();
   }
 }

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
+#include <QHash>
 #include <QKeyEvent>
 #include <QObject>
-#include <QSet>
+#include <functional>
 
 namespace qt {
 
@@ -16,13 +18,16 @@ class KeyGuard final : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
+  /// A key has been kept away from a box.
+  std::function<void()> keptFromBox;
+
  private:
   bool isRepeat(const QKeyEvent& event) const;
   bool isTooEarly(const QKeyEvent& event) const;
   void keep(const QKeyEvent& event);
 
-  QSet<int> held_;    ///< the keys that are down
-  int released_ = 0;  ///< the one that came up last, and when, in ms of the events' clock
+  QHash<quint32, QDeadlineTimer> held_;  ///< till when a key counts as down
+  quint32 released_ = 0;  ///< the key that came up last, and when, in ms of the events' clock
   quint64 releasedAt_ = 0;
   bool boxWaits_ = false;   ///< no key has been meant for the last box yet
   QElapsedTimer boxShown_;  ///< since it came up

@@ -85,7 +85,6 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   QPdfWriter writer(&buffer);
   writer.setTitle(documentName_);
   writer.setPageSize(paper);
-  writer.setPageOrientation(QPageLayout::Portrait);
   writer.setPageMargins({});
   QPainter painter(&writer);
   painter.scale(writer.logicalDpiX() / pointsPerInch, writer.logicalDpiY() / pointsPerInch);

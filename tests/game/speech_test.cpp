@@ -109,7 +109,7 @@ TEST_F(SpeechTest, ACharacterSetsAsksOrTellsWhyNot) {
            "corners are set in this mode | 49"},
           {49, "3+*n", "3 | 4 | " + digitsOnly + " | 1"},
           {-1, "tN",
-           "Corners: top left no value, top right no value, bottom left no value, bottom right 4 | "
+           "Corners: top left not set, top right not set, bottom left not set, bottom right 4 | "
            "43"}});
 }
 

@@ -73,7 +73,7 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_TRUE(told.contains("ObjectHide New Puzzle") && told.contains("ObjectShow Solve Puzzle"));
   EXPECT_TRUE(told.contains("ObjectHide top left correct") &&
               told.contains("ObjectHide top right target " + QString::fromStdString(caption(51))));
-  EXPECT_TRUE(told.contains("StateChanged no value, row 1 column 1"));
+  EXPECT_TRUE(told.contains("StateChanged not set, row 1 column 1"));
   EXPECT_EQ(heard("say"), QStringList("Set each corner to its number, then press Solve Puzzle"));
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
   EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.contains("-"));

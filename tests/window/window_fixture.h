@@ -34,6 +34,9 @@ struct WindowTest : testing::Test {
     auto* box = dynamic_cast<QMessageBox*>(modal);
     messages.push_back(box->windowTitle() + ": " + box->text());
     EXPECT_EQ(box->buttons().size(), 1 + box->text().contains(QRegularExpression("^Print|[?]$")));
+    EXPECT_EQ(box->defaultButton(), box->buttons().first());
+    const auto flags = Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
+    EXPECT_EQ(box->windowFlags() & (Qt::WindowType_Mask | flags), Qt::Dialog | flags);
     box->buttons().first()->click();
   };
   QTimer watch;
