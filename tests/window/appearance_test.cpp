@@ -6,14 +6,7 @@
 namespace tessoro::test {
 
 /// These run again at each scale factor, as set by the environment.
-struct AppearanceTest : PictureTest {
-  /// The client area in pixels of the screen.
-  QImage picture() const {
-    QImage image = view.grab().toImage();
-    image.setDevicePixelRatio(1);
-    return image;
-  }
-};
+using AppearanceTest = PictureTest;
 
 TEST_F(AppearanceTest, TheScreenShowsWhatTheControlsSay) {
   EXPECT_EQ(fault(false), "");
@@ -69,7 +62,7 @@ TEST_F(AppearanceTest, TextAndBordersStandOutInEveryThemeAndWhileABoxIsOpen) {
     theme.setColor(QPalette::Dark, shadow);
     theme.setColor(QPalette::Inactive, QPalette::WindowText, face);
     window.setPalette(theme);
-    const QImage image = picture();
+    const QImage image = screen();
     for (const platform::Control* text : texts) {
       const QPointF middle = QPointF(middleOf(*text)) * scale;
       const QRect inside(middle.toPoint() - QPoint(9, 6), QSize(18, 12));

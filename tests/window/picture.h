@@ -24,13 +24,20 @@ struct PictureTest : WindowTest {
     image.setDevicePixelRatio(1);
     return image;
   }
-  /// The client area of a form in the window, drawn from nothing but its controls onto `image`,
-  /// which shows what the toolkit draws.
+  /// Draws the client area of a form from nothing but its controls. What the toolkit draws stays as
+  /// it is, but for the edges of a text, which have nothing.
   void draw(QImage& image, const platform::Form& form, bool ring) const {
-    const QImage before = image;
     QPainter painter(&image);
+    QRegion own(image.rect());
+    for (const auto& it : form.controls) {
+      if (auto* const* text = std::get_if<platform::TextBox*>(&it))
+        own -= pixels(rectOf((*text)->place)) - QMargins(9, 9, 9, 9);
+      if (auto* const* button = std::get_if<platform::CommandButton*>(&it))
+        own -= pixels(rectOf((*button)->place));
+    }
+    painter.setClipRegion(own);
     painter.fillRect(image.rect(), colour(platform::buttonFace));
-    for (const auto& it : form.controls) drawAt({}, it, painter, before);
+    for (const auto& it : form.controls) drawAt({}, it, painter);
     const int line = qRound(scale);
     QRect rect = ring ? pixels(QApplication::focusWidget()->geometry()) : QRect();
     for (const QColor it : {Qt::black, Qt::yellow, Qt::yellow, Qt::black}) {
@@ -57,6 +64,9 @@ struct PictureTest : WindowTest {
   }
 
  private:
+  static QRect rectOf(const platform::Place& it) {
+    return {QPoint(it.left, it.top) / 15, QSize(it.width, it.height) / 15};
+  }
   QColor colour(platform::Colour it) const {
     static const std::map<unsigned, QPalette::ColorRole> roles{{0x80000000, QPalette::WindowText},
                                                                {0x80000001, QPalette::Button},
@@ -79,15 +89,13 @@ struct PictureTest : WindowTest {
     painter.setPen(ink);
     painter.drawText(rect, Qt::AlignCenter, QString::fromStdString(text));
   }
-  void drawAt(QPoint start, const platform::ControlRef& control, QPainter& painter,
-              const QImage& before) const {
+  void drawAt(QPoint start, const platform::ControlRef& control, QPainter& painter) const {
     const int line = static_cast<int>(scale);
     const auto drawOne = [&](const auto& it) {
       if (!it.Visible()) return;
       using Kind = std::remove_cvref_t<decltype(it)>;
-      const auto& [left, top, width, height] = it.place;
-      const QPoint corner = start + QPoint(left, top) / 15;
-      const QRect rect = pixels({corner, QSize(width, height) / 15});
+      const QRect place = rectOf(it.place).translated(start);
+      const QRect rect = pixels(place);
       if constexpr (std::is_same_v<Kind, Cell>) {
         painter.fillRect(rect, colour(it.borderbottom));
         painter.fillRect(rect.adjusted(0, 0, -line, -line), colour(it.bordertop));
@@ -121,12 +129,7 @@ struct PictureTest : WindowTest {
       } else if constexpr (std::is_same_v<Kind, platform::Frame>) {
         outline(painter, rect.adjusted(line, line, 0, 0), line, colour(platform::highlight3D));
         outline(painter, rect.adjusted(0, 0, -line, -line), line, colour(platform::shadow3D));
-        for (const auto& inner : it.controls) drawAt(corner, inner, painter, before);
-      } else {
-        // The toolkit's own, but for the edges of a text, which have nothing.
-        const int edge = std::is_same_v<Kind, platform::TextBox> ? 3 * line : 0;
-        painter.drawImage(rect.topLeft() + QPoint(edge, edge), before,
-                          rect - QMargins(edge, edge, edge, edge));
+        for (const auto& inner : it.controls) drawAt(place.topLeft(), inner, painter);
       }
     };
     std::visit([&](const auto* it) { drawOne(*it); }, control);

@@ -9,11 +9,10 @@ namespace tessoro::test {
 /// Somebody who uses the mouse, the keys and the actions of a screen reader at random.
 struct WindowPlayerTest : ListeningTest {
   std::mt19937 random;
-  QString done;  ///< the last event, in words
-  QChar typed;   ///< the character that it has typed on what takes the focus
-  int focusedCell = 0;
-  QString lastSaid;
-  int pressed = 0;  ///< the cell of the grid that it may have pressed
+  QString done;       ///< the last event, in words
+  int pressed = 0;    ///< the cell of the grid that it may have pressed
+  int ledTo = 0;      ///< the cell to which its key leads
+  int gridFocus = 1;  ///< the cell that had the focus last
   bool ring = false;
 
   int below(qsizetype end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
@@ -30,8 +29,9 @@ struct WindowPlayerTest : ListeningTest {
   void actAtRandom() {
     const QWidget* focused = QApplication::focusWidget();
     const bool takesFocus = focused->focusPolicy() != Qt::NoFocus;
-    pressed = focusedCell = cellAt(focused->geometry().center());
-    typed = QChar();
+    const int focusedCell = pressed = cellAt(focused->geometry().center());
+    if (focusedCell != 0) gridFocus = focusedCell;
+    ledTo = 0;
     if (const int kind = below(20); kind < 8) {
       const QPoint point(below(view.width()), below(view.height()));
       done = "click " + QDebug::toString(point);
@@ -46,14 +46,17 @@ struct WindowPlayerTest : ListeningTest {
       done = QDebug::toString(it);
       if (!std::set{Qt::Key_Space, Qt::Key_Return, Qt::Key_Backspace}.contains(it)) pressed = 0;
       ring = true;
+      ledTo = wayFrom(focusedCell, it);
+      // From the button, the only other control that takes the focus by itself, back to the grid.
+      if (focusedCell == 0 && takesFocus && (it == Qt::Key_Up || it == Qt::Key_Tab))
+        ledTo = gridFocus;
       key(it);
     } else if (kind < 17) {
       const QChar it = anyOf(QString("123456789+-*rctlnN"));
       done = QString("type ") + it;
       // The button is in no row or column; what only a client can give the focus takes nothing.
-      if (focusedCell != 0 || (takesFocus && it != 'r' && it != 'c')) typed = it;
+      ring = ring || focusedCell != 0 || (takesFocus && it != 'r' && it != 'c');
       if (it.isLetter()) pressed = 0;
-      ring = ring || !typed.isNull();
       type(it);
     } else if (kind < 19) {
       QAccessibleInterface* control = all->child(below(all->childCount()));
@@ -75,46 +78,24 @@ struct WindowPlayerTest : ListeningTest {
     settle();
   }
 
-  /// As it is spoken.
-  QString words(int index) {
-    static const std::map<QString, QString> signs{{"", "empty"}, {"?", "no value"}, {"=", "equals"},
-                                                  {"+", "plus"}, {"-", "minus"},    {"*", "times"}};
-    const QString shown = QString::fromStdString(caption(index));
-    return signs.contains(shown) ? signs.at(shown) : shown;
-  }
-  /// Where nobody minds why a line has no value.
-  static QString plain(QString text) {
-    return text.replace(" is full, no digit", " has no value").replace("no digit", "no value");
-  }
-  /// What is to be heard of each corner, and of each line's value.
-  QStringList standings() {
-    QStringList list;
-    for (int k = 1; k <= 4; ++k) {
-      const QString name =
-          QStringList{"top left", "top right", "bottom left", "bottom right"}[k - 1];
-      list += game.form.board.NPict[k].Visible() ? name + " is correct"
-              : cell(OuterCornerCells[k]).Visible()
-                  ? name + " is wrong, target " + words(OuterCornerCells[k])
-                  : "";
+  /// The cell to which a key leads from another; 0 for keys that do not.
+  static int wayFrom(int from, int key) {
+    static const std::map<int, std::pair<int, bool>> steps{
+        {Qt::Key_Left, {-1, false}}, {Qt::Key_Right, {1, false}}, {Qt::Key_Home, {-1, true}},
+        {Qt::Key_Up, {-7, false}},   {Qt::Key_Down, {7, false}},  {Qt::Key_End, {1, true}}};
+    if (from == 0 || !steps.contains(key)) return 0;
+    const auto [step, toEdge] = steps.at(key);
+    int to = from;
+    for (int at = from + step; at >= 1 && at <= gridCells; at += step) {
+      if (step % 7 != 0 && rowOf(at) != rowOf(from)) break;
+      if (roleOf(at) == CellRole::hole) continue;
+      to = at;
+      if (!toEdge) break;
     }
-    for (const int i : {7, 21, 35, 43, 45, 47, 49}) {
-      const QString name = i == 49  ? "total"
-                           : i < 43 ? QString("row %1").arg(i / 7)
-                                    : QString("column %1").arg(i - 42);
-      list += name + (caption(i) == "?" ? " has no value" : " is " + words(i));
-    }
-    return list;
-  }
-  QString line(const QString& name, int first, int step) {
-    const bool ends = roleOf(first + 5 * step) == CellRole::equals;
-    QStringList list;
-    for (int i = 0; i < (ends ? 5 : 7); ++i) {
-      if (roleOf(first + i * step) != CellRole::hole) list += words(first + i * step);
-    }
-    return name + list.join(ends ? " " : ", ");
+    return to;
   }
   /// What clients have read or been told so far, and what is there to be read.
-  QString faultInNames() {
+  QString faultInReading() {
     for (int i = 0; i < all->childCount(); ++i) {
       QAccessibleInterface* it = all->child(i);
       const QString name = it->text(QAccessible::Name);
@@ -125,33 +106,21 @@ struct WindowPlayerTest : ListeningTest {
     }
     for (int index = 1; index <= gridCells; ++index) {
       if (roleOf(index) == CellRole::hole) continue;
-      const QString name = plain(at(cell(index))->text(QAccessible::Name));
-      const QString right =
-          words(index) + QString(", row %1 column %2").arg(rowOf(index)).arg(columnOf(index));
-      if (!name.startsWith(right)) return name + " for " + right;
-      if (at(cell(index))->state().disabled == cell(index).enabled()) return "state of " + name;
-    }
-    return "";
-  }
-  /// What is wrong with the sentence about the last event, by what was to be heard before it.
-  QString faultInSentence(const QString& said, const QStringList& before, bool changed) {
-    if (typed == 'l' && said != lastSaid) return "not the last: " + lastSaid;
-    if (typed == 'r' || typed == 'c') {
-      const bool row = typed == 'r';
-      const QString right =
-          focusedCell == 0 ? said
-          : row ? line(QString("Row %1: ").arg(rowOf(focusedCell)), 7 * rowOf(focusedCell) - 6, 1)
-                : line(QString("Column %1: ").arg(columnOf(focusedCell)), columnOf(focusedCell), 7);
-      return said.startsWith(right) ? "" : "not " + right;
-    }
-    if (typed.isLetter() || pressed == 0) return "";
-    if (roleOf(pressed) == CellRole::hole) return said;
-    if (said.isEmpty()) return "nothing said";
-    if (!changed || (game.state.SolveMode && cornerOf(pressed) == 0)) return "";
-    if (!said.startsWith(words(pressed))) return "not what it shows";
-    for (const QString& now : standings()) {
-      if (!before.isEmpty() && !before.contains(now) && !said.contains(", " + now))
-        return "not heard: " + now;
+      QAccessibleInterface* it = at(cell(index));
+      const QString name = it->text(QAccessible::Name);
+      const bool known = caption(index) != "?";
+      const QString shown = QString::fromStdString(known ? spoken(caption(index)) : "");
+      const QString place = QString(", row %1 column %2").arg(rowOf(index)).arg(columnOf(index));
+      if (!name.startsWith(shown) || !name.contains(known ? shown + place : place)) return name;
+      const bool isNumber = roleOf(index) == CellRole::number || cornerOf(index) != 0;
+      const bool isSet = isNumber || roleOf(index) == CellRole::rowOperator ||
+                         roleOf(index) == CellRole::columnOperator;
+      if (it->role() != (isSet ? QAccessible::Button : QAccessible::StaticText))
+        return "role of " + name;
+      const QString actions = !cell(index).enabled() ? "" : isNumber ? "Press Decrease " : "Press ";
+      if (it->actionInterface()->actionNames().join(' ') != actions + "SetFocus")
+        return "actions of " + name;
+      if (it->state().disabled == cell(index).enabled()) return "state of " + name;
     }
     return "";
   }
@@ -162,29 +131,28 @@ TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
   const unsigned seed = given != 0 ? static_cast<unsigned>(given) : std::random_device{}();
   std::cout << "TESSORO_SEED=" << seed << '\n';
   random.seed(seed);
-  lastSaid = plain(QString::fromStdString(game.narrator.firstPuzzle()));
   onModal = [this](QWidget* box) {
     const auto* label = box->findChild<QLabel*>("qt_msgbox_label");
     const QString name = label->accessibleName();
-    told += "say " + name.left(name.size() - label->text().size() - 2);
+    told += "say " + name.chopped(label->text().size()).chopped(name == label->text() ? 0 : 2);
     dynamic_cast<QMessageBox*>(box)->buttons().first()->click();
   };
   Invariants invariants(game);
   for (int events = 0; events < 200; ++events) {
-    const QString look = QString::fromStdString(Invariants::look(game));
-    const QStringList before =
-        caption(21).empty() || game.state.SolveMode ? QStringList() : standings();
+    const std::string look = Invariants::look(game);
     actAtRandom();
-    SCOPED_TRACE((done + "\n" + look).toStdString());
-    QStringList said = heard("say");
-    const bool changed = QString::fromStdString(Invariants::look(game)) != look;
-    EXPECT_EQ(invariants.broken(changed ? pressed : 0), "");
+    SCOPED_TRACE(done.toStdString() + "\n" + look);
+    const QStringList said = heard("say");
+    const bool changed = Invariants::look(game) != look;
+    EXPECT_EQ(invariants.broken(changed ? pressed : 0, said.value(0).toStdString()), "");
+    if (ledTo != 0) {
+      EXPECT_EQ(cellAt(QApplication::focusWidget()->geometry().center()), ledTo);
+    }
     EXPECT_EQ(fault(ring), "");
-    EXPECT_EQ(faultInNames(), "");
+    EXPECT_EQ(faultInReading(), "");
     EXPECT_EQ(window.windowTitle(), QString::fromStdString(game.form.caption()));
     EXPECT_LE(said.size(), 1);
-    EXPECT_EQ(faultInSentence(plain(said.value(0)), before, changed), "");
-    if (!said.value(0).isEmpty()) lastSaid = plain(said[0]);
+    EXPECT_FALSE(pressed != 0 && roleOf(pressed) != CellRole::hole && said.isEmpty());
     ASSERT_FALSE(HasFailure()) << said.join("|").toStdString();
   }
 }

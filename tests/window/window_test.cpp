@@ -92,8 +92,9 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
     QTest::qWait(550);
     send(*box, "R- R+=");
     EXPECT_TRUE(box->isVisible()) << "held down since before the box";
+    opened.restart();
     send(*box, "S+ S-");
-    EXPECT_TRUE(box->isVisible()) << "not all keys have been let go";
+    EXPECT_TRUE(box->isVisible() || opened.elapsed() >= 500) << "another key is down";
     send(*box, "R- R+ R-");
     EXPECT_FALSE(box->isVisible());
     box->close();
