@@ -14,7 +14,7 @@
 #include <string>
 
 #include "app/game.h"
-#include "app/program.h"
+#include "program.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
 #include "qt/qt_desktop.h"
@@ -121,7 +121,7 @@ struct Shown {
 
   Shown() {
     game.startUp.Form_Load();
-    window = &desktop->show(game.form);
+    window = &desktop->show(game.form, {});
     settle();
   }
   ~Shown() { desktop->close(); }

@@ -14,14 +14,15 @@ fault() {
   faults=$((faults + 1))
 }
 
+# Makes it in the folder.
 make_package() {
-  rm -f "$build"/tessoro_*.deb
-  cpack --preset release >"$build/cpack.log" 2>&1 || { cat "$build/cpack.log" >&2; exit 1; }
+  rm -f "$1"/tessoro_*.deb
+  cpack --preset release -B "$PWD/$1" >"$build/cpack.log" 2>&1 ||
+    { cat "$build/cpack.log" >&2; exit 1; }
+  echo "$1"/tessoro_*.deb
 }
 
-# By someone whose files nobody else may read.
-(umask 077 && make_package)
-package=$(echo "$build"/tessoro_*.deb)
+package=$(make_package "$build")
 content=$build/package-content
 rm -rf "$content"
 dpkg-deb --extract "$package" "$content"
@@ -79,14 +80,14 @@ for option in $(DEB_BUILD_MAINT_OPTIONS=hardening=+all dpkg-buildflags --get CPP
   esac
 done
 
-# Made again at another time.
-make_package
-before=$(sha256sum "$package")
+# Made again at another time, by someone whose files nobody else may read and whose locale knows
+# no letters but ASCII's, which the folder's name goes beyond.
 rm -r "$build/packaging/hicolor" "$build"/packaging/*.gz
 touch "$build/tessoro"
 cmake --build --preset release --target tessoro -- --quiet
-make_package
-[[ $before == "$(sha256sum "$package")" ]] || fault 'is another one each time it is made'
+elsewhere=$build/café
+again=$(umask 077 && LC_ALL=C make_package "$elsewhere")
+cmp "$package" "$again" || fault 'is another one each time it is made'
 
-rm -rf "$content"
+rm -rf "$content" "$elsewhere"
 ((faults == 0))

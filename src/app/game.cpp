@@ -16,44 +16,49 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
       printCommand(page, desktop),
       shell(form, desktop),
       startUp(form.board, page, search, form.CompMess, form.Solveit, desktop),
-      narrator(form, state, search, desktop) {
+      narrator(form, state, search, desktop),
+      keyCommands(form, state, moves, narrator) {
   connectEvents();
   describeForScreenReaders(form);
 }
 
 void Game::connectEvents() {
-  // Events come in while a search yields. Those that would change the puzzle or the board are
-  // ignored then: the search is about to replace both.
-  const auto unlessSearching = [this](auto handler) {
-    return [this, handler](auto... arguments) {
-      if (!search.underWay()) handler(arguments...);
-    };
-  };
   for (int index = 0; index < boardCells; ++index) {
     Cell& cell = form.board.GridDisp[index];
-    cell.mouseDown = unlessSearching([this, index](const platform::MousePress& press) {
+    cell.mouseDown = [this, index](const platform::MousePress& press) {
       narrator.narrate([&] { moves.GridDisp_MouseDown(index, press); },
                        narrator.outcomeOfPress(index));
-    });
+    };
     cell.refused = [this, index] { narrator.explainRefusal(index); };
+    // A screen reader may give the focus to what stands beside the grid, too.
+    if (index < 1 || index > gridCells) continue;
+    cell.typed = [this, index](char character, bool shift) {
+      return keyCommands.typedOnCell(index, character, shift);
+    };
   }
-  const auto connect = [this, unlessSearching](auto& control, auto handler, auto outcome) {
-    control.click =
-        unlessSearching([this, handler, outcome] { narrator.narrate(handler, outcome); });
+  form.NewPuz.click = [this] {
+    narrator.narrate([this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
   };
-  connect(form.NewPuz, [this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
-  connect(
-      form.Solveit, [this] { setAPuzzle.Solveit_Click(); },
-      [this] { return narrator.solvedPuzzle(); });
-  connect(
-      form.StartSolx, [this] { newGame.StartSolx_Click(); },
-      [this] { return narrator.randomStart(); });
-  connect(
-      form.ShowSolx, [this] { solutionDisplay.ShowSolx_Click(); },
-      [] { return Narrator::solutionShown(); });
-  connect(
-      form.SolveMx, [this] { setAPuzzle.SolveMx_Click(); },
-      [this] { return narrator.modeSwitched(); });
+  form.Solveit.click = [this] {
+    narrator.narrate([this] { setAPuzzle.Solveit_Click(); },
+                     [this] { return narrator.solvedPuzzle(); });
+  };
+  form.StartSolx.click = [this] {
+    narrator.narrate([this] { newGame.StartSolx_Click(); },
+                     [this] { return narrator.randomStart(); });
+  };
+  form.ShowSolx.click = [this] {
+    narrator.narrate([this] { solutionDisplay.ShowSolx_Click(); }, Narrator::solutionShown);
+  };
+  form.SolveMx.click = [this] {
+    narrator.narrate([this] { setAPuzzle.SolveMx_Click(); },
+                     [this] { return narrator.modeSwitched(); });
+  };
+  for (Cell* button : {&form.NewPuz, &form.Solveit}) {
+    button->typed = [this](char character, bool shift) {
+      return keyCommands.typedOnButton(character, shift);
+    };
+  }
   form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };
 
   form.Solveit.contextMenu = [this](auto... arguments) {
@@ -63,6 +68,8 @@ void Game::connectEvents() {
   form.Helpx.click = [this] { shell.Helpx_Click(); };
   form.Aboutx.click = [this] { shell.Aboutx_Click(); };
   form.Exitx.click = [this] { shell.Exitx_Click(); };
+  form.help = [this] { shell.Helpx_Click(); };
+  form.edgeReached = [this] { narrator.explainEdge(); };
   form.unload = [this] { startUp.Form_Unload(); };
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/form1.h"
+#include "app/key_commands.h"
 #include "app/narrator.h"
 #include "app/shell.h"
 #include "board/puzzle_state.h"
@@ -40,6 +41,7 @@ class Game {
   Shell shell;
   StartUp startUp;
   Narrator narrator;
+  KeyCommands keyCommands;
 
  private:
   void connectEvents();

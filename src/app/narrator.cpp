@@ -1,6 +1,5 @@
 #include "app/narrator.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -30,32 +29,35 @@ std::string lineOf(int cell) {
 }
 
 /// What a result cell shows, as the end of a clause.
-std::string valueOf(const std::string& caption) {
-  return caption == noNumber ? " has no value" : " is " + caption;
+std::string changedValue(const std::string& result) {
+  return result == noValue             ? " has no value"
+         : isDigit(readNumber(result)) ? " is " + result
+                                       : " is full, " + result;
 }
 
 }  // namespace
 
-Narrator::Narrator(const Form1& form, const PuzzleState& state, const SolutionSearch& search,
-                   platform::Desktop& desktop)
-    : form_(form), state_(state), search_(search), desktop_(desktop) {
-  // Boxes that come up while a search yields do not belong to it.
-  desktop_.boxOpens = [this] {
+void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
+  // Events come in while a search yields. Those that would change the puzzle or the board are
+  // ignored then: the search is about to replace both.
+  if (search_.underWay()) return;
+  const auto announceOutcome = [&] {
+    if (outcome) say(std::exchange(outcome, nullptr)());
+  };
+  // Boxes that come up while a search yields are not the handler's.
+  desktop_.boxOpens = [&] {
     if (!search_.underWay()) announceOutcome();
   };
-}
-
-void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
-  outcome_ = std::move(outcome);
   handler();
+  desktop_.boxOpens = nullptr;
   announceOutcome();
 }
 
-void Narrator::announceOutcome() {
-  const Sentence outcome = std::exchange(outcome_, nullptr);
-  if (!outcome) return;
-  const std::string sentence = outcome();
-  if (!sentence.empty()) desktop_.announce(sentence);
+void Narrator::say(const std::string& sentence) {
+  // A search replaces what there is to be told of.
+  if (sentence.empty() || search_.underWay()) return;
+  last_ = sentence;
+  desktop_.announce(sentence);
 }
 
 Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
@@ -67,52 +69,104 @@ Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
 }
 
 Narrator::Heard Narrator::heard() const {
+  const Board& board = form_.board;
   Heard now;
+  now.begun = !board.GridDisp[plainResult].caption().empty();
   for (int cell = 1; cell <= gridCells; ++cell) {
-    now.captions[cell] = form_.board.GridDisp[cell].caption();
+    if (!lineOf(cell).empty()) now.results[cell] = spokenCell(board, cell);
   }
-  for (int k = 1; k <= 4; ++k) now.right[k] = form_.board.NPict[k].Visible();
+  for (int k = 1; k <= 4; ++k) {
+    now.corners[k] = board.NPict[k].Visible()                        ? Standing::right
+                     : board.GridDisp[OuterCornerCells[k]].Visible() ? Standing::wrong
+                                                                     : Standing::open;
+  }
   return now;
 }
 
 std::string Narrator::changesSince(const Heard& before) const {
   const Heard now = heard();
   std::string words;
-  if (before.captions[plainResult].empty()) {
-    const auto wrong = std::count(now.right.begin() + 1, now.right.end(), false);
-    return ", no line has a value yet, corners to get right: " + std::to_string(wrong);
+  if (!before.begun && now.begun) {
+    words = ", no line has a value yet, corners to get right:";
+    for (int k = 1; k <= 4; ++k) {
+      if (now.corners[k] == Standing::wrong) words += " " + cornerName(k) + ",";
+    }
+    words.pop_back();
+    return words;
   }
+  const auto target = [&](int k) {
+    return ", target " + form_.board.GridDisp[OuterCornerCells[k]].caption();
+  };
   for (int cell = 1; cell <= gridCells; ++cell) {
-    const std::string line = lineOf(cell);
-    if (line.empty() || now.captions[cell] == before.captions[cell]) continue;
-    words += ", " + line + valueOf(now.captions[cell]);
+    if (now.results[cell] == before.results[cell]) continue;
+    words += ", " + lineOf(cell) + changedValue(now.results[cell]);
+    const int k = cornerOf(cell);
+    const bool stillWrong =
+        now.corners[k] == Standing::wrong && before.corners[k] == Standing::wrong;
+    if (stillWrong && now.results[cell] != noValue) words += target(k);
   }
   for (int k = 1; k <= 4; ++k) {
-    if (now.right[k] == before.right[k]) continue;
-    words += ", " + cornerName(k) + (now.right[k] ? " is correct" : " is wrong");
+    if (now.corners[k] == before.corners[k]) continue;
+    words += ", " + cornerName(k) +
+             (now.corners[k] == Standing::right ? " is correct" : " is wrong" + target(k));
   }
   return words;
 }
 
-void Narrator::explainRefusal(int cell) const {
-  const bool given = roleOf(cell) == CellRole::number;
-  desktop_.announce(state_.SolveMode ? onlyCorners
-                    : given          ? "This number is given"
-                                     : "Only numbers and operators are set");
+void Narrator::explainRefusal(int cell) {
+  const CellRole role = roleOf(cell);
+  say(std::string(state_.SolveMode                ? onlyCorners
+                  : role == CellRole::number      ? "This number is given"
+                  : role == CellRole::equals      ? "Nothing is set here"
+                  : role == CellRole::outerCorner ? "This is the number to reach"
+                                                  : "Results are worked out, not set"));
 }
 
-std::string Narrator::corners() const {
-  std::string words = "Corners:";
-  for (int k = 1; k <= 4; ++k) {
-    words += (k == 1 ? " " : ", ") + cornerName(k) + " " +
-             form_.board.GridDisp[OuterCornerCells[k]].caption();
-  }
-  return words;
+void Narrator::explainDisabledSolveit() {
+  // Any cell enables the button, and a corner would not be the same after it.
+  say(state_.BoardLocked ? "Solved already: change a corner, or press any number to solve it again"
+                         : "Set the corners first");
+}
+
+void Narrator::explainTyping(int cell) {
+  const CellRole role = roleOf(cell);
+  const bool isOperator = role == CellRole::rowOperator || role == CellRole::columnOperator;
+  say(cell == 0    ? "Nothing is set here"
+      : isOperator ? "Plus, minus or times is set here"
+                   : "A digit from 1 to 9 is set here");
+}
+
+void Narrator::explainEdge() {
+  say("Edge of the board");
+}
+
+void Narrator::explainNoneEmpty() {
+  say(state_.BoardLocked && !state_.SolveMode ? "The puzzle is over" : "No other cell is empty");
+}
+
+void Narrator::tellRow(int row) {
+  say(spokenRow(form_.board, row));
+}
+
+void Narrator::tellColumn(int column) {
+  say(spokenColumn(form_.board, column));
+}
+
+void Narrator::tellCorners() {
+  say(spokenCorners(form_.board));
+}
+
+void Narrator::repeat() {
+  say(last_.empty() ? firstPuzzle() : last_);
+}
+
+std::string Narrator::firstPuzzle() const {
+  return search_.SolveFound() ? spokenCorners(form_.board) : "";
 }
 
 std::string Narrator::newPuzzle() const {
   if (!search_.SolveFound()) return {};  // as the message box has told
-  return "Puzzle " + numberText(state_.PuzzleNo) + ". " + corners();
+  return "Puzzle " + numberText(state_.PuzzleNo) + ". " + spokenCorners(form_.board);
 }
 
 std::string Narrator::solvedPuzzle() const {
@@ -125,15 +179,11 @@ std::string Narrator::solutionShown() {
 }
 
 std::string Narrator::randomStart() const {
-  std::string words = "Random start";
-  for (int k = 1; k <= 4; ++k) {
-    if (form_.board.NPict[k].Visible()) words += ", " + cornerName(k) + " is correct";
-  }
-  return words;
+  return "Random start. " + spokenCorners(form_.board);
 }
 
 std::string Narrator::modeSwitched() const {
-  return state_.SolveMode ? "Press each corner to its number, then press Solve Puzzle"
+  return state_.SolveMode ? "Set each corner to its number, then press Solve Puzzle"
                           : "Back from setting puzzles. Press New Puzzle to play on";
 }
 

@@ -5,7 +5,7 @@
 namespace tessoro {
 
 void Shell::Helpx_Click() {
-  desktop_.helpViewer().WinHelpA(Form1_, "qaviro.hlp", platform::HELP_CONTENTS, 0);
+  desktop_.helpViewer().WinHelpA(form_, "qaviro.hlp", platform::HELP_CONTENTS, 0);
 }
 
 void Shell::Aboutx_Click() {

@@ -8,8 +8,7 @@ namespace tessoro {
 /// The commands of the menu that have nothing to do with the puzzle.
 class Shell {
  public:
-  Shell(const platform::Form& Form1, platform::Desktop& desktop)
-      : Form1_(Form1), desktop_(desktop) {}
+  Shell(const platform::Form& form, platform::Desktop& desktop) : form_(form), desktop_(desktop) {}
 
   /// Opens the help file at its contents.
   void Helpx_Click();
@@ -19,7 +18,7 @@ class Shell {
   void Exitx_Click();
 
  private:
-  const platform::Form& Form1_;
+  const platform::Form& form_;
   platform::Desktop& desktop_;
 };
 

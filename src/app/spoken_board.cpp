@@ -3,9 +3,11 @@
 #include <array>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "board/captions.h"
 #include "board/operators.h"
+#include "rules/eval_line.h"
 
 namespace tessoro {
 namespace {
@@ -18,11 +20,76 @@ constexpr std::array<std::string_view, 5> cornerNames{"", "top left", "top right
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 6> spokenSigns{
     {{"", "empty"},
-     {noNumber, "no value"},
+     {noNumber, noValue},
      {"=", "equals"},
      {OpPlus, "plus"},
      {OpMinus, "minus"},
      {OpTimes, "times"}}};
+
+/// A row or a column of the grid: its first cell, and the step from each to the next.
+struct Line {
+  const Board& board;
+  int first;
+  int step;
+
+  int cellAt(int place) const { return first + place * step; }
+  const std::string& captionAt(int place) const { return board.GridDisp[cellAt(place)].caption(); }
+  std::int16_t numberAt(int place) const { return readNumber(captionAt(place)); }
+
+  bool hasNumbers() const { return numberAt(0) != 0 && numberAt(2) != 0 && numberAt(4) != 0; }
+  bool isFull() const { return hasNumbers() && !captionAt(1).empty() && !captionAt(3).empty(); }
+  bool isFullWithoutDigit() const {
+    return isFull() &&
+           !isDigit(EvalLine(numberAt(0), numberAt(2), numberAt(4), captionAt(1), captionAt(3)));
+  }
+};
+
+Line rowLine(const Board& board, int row) {
+  return {board, (row - 1) * gridSide + 1, 1};
+}
+Line columnLine(const Board& board, int column) {
+  return {board, column, gridSide};
+}
+
+std::vector<Line> linesEndingIn(const Board& board, int cell) {
+  std::vector<Line> lines;
+  if (columnOf(cell) == gridSide) lines.push_back(rowLine(board, rowOf(cell)));
+  if (rowOf(cell) == gridSide) lines.push_back(columnLine(board, columnOf(cell)));
+  return lines;
+}
+
+/// How a corner stands to the puzzle, as the end of a clause: once play has begun, either a smiling
+/// face or its target is shown beside it.
+std::string standing(const Board& board, int k) {
+  const Cell& target = board.GridDisp[OuterCornerCells[k]];
+  if (board.NPict[k].Visible()) return ", correct";
+  return target.Visible() ? ", target " + target.caption() : "";
+}
+
+/// The end of a line: its value, and how that stands to the puzzle if it is a corner.
+std::string endOfLine(const Line& line) {
+  const int result = line.cellAt(6);
+  const int k = cornerOf(result);
+  const std::string& caption = line.captionAt(6);
+  const std::string now = k == 0 ? "" : standing(line.board, k);
+  if (readNumber(caption) != 0) {
+    // Before play has begun, what a corner shows is its target.
+    const bool isTarget = k != 0 && now.empty() && !line.isFull();
+    return isTarget ? ", " + std::string(noValue) + ", target " + caption : " is " + caption + now;
+  }
+  return ", " + (caption.empty() ? std::string(noValue) : spokenCell(line.board, result)) + now;
+}
+
+std::string spokenLine(const std::string& name, const Line& line) {
+  const bool ends = roleOf(line.cellAt(5)) == CellRole::equals;
+  std::string words = name + ":";
+  for (int place = 0; place < (ends ? 5 : gridSide); ++place) {
+    const int cell = line.cellAt(place);
+    if (roleOf(cell) == CellRole::hole) continue;
+    words += (ends || place == 0 ? " " : ", ") + spokenCell(line.board, cell);
+  }
+  return ends ? words + endOfLine(line) : words;
+}
 
 Accessible::Action press() {
   return {"Press", MouseButton::left};
@@ -32,13 +99,13 @@ Accessible::Action decrease() {
 }
 
 /// What a cell shows, then its place.
-std::string describe(int index, const Cell& cell) {
-  return spoken(cell.caption()) + ", row " + std::to_string(rowOf(index)) + " column " +
-         std::to_string(columnOf(index));
+std::string describe(int index, const Board& board) {
+  return spokenCell(board, index) + ", row " + numberText(rowOf(index)) + " column " +
+         numberText(columnOf(index));
 }
 
-Accessible describedCell(int index, const Cell& cell) {
-  const auto name = [index, &cell] { return describe(index, cell); };
+Accessible describedCell(int index, const Board& board) {
+  const auto name = [index, &board] { return describe(index, board); };
   switch (roleOf(index)) {
     case CellRole::number:
       return {Accessible::Role::button, name, {press(), decrease()}, true};
@@ -59,21 +126,14 @@ Accessible describedCell(int index, const Cell& cell) {
 }
 
 void describeCorner(int k, Board& board) {
-  Cell& cell = board.GridDisp[CornerCells[k]];
-  const Cell& target = board.GridDisp[OuterCornerCells[k]];
-  const platform::PictureBox& smiley = board.NPict[k];
-  // Once play has begun, either its target or a smiling face is shown beside a corner.
-  const auto name = [k, &cell, &target, &smiley] {
-    std::string words = describe(CornerCells[k], cell);
-    if (target.Visible() || smiley.Visible()) words += ", target " + target.caption();
-    return smiley.Visible() ? words + ", correct" : words;
-  };
+  const auto name = [k, &board] { return describe(CornerCells[k], board) + standing(board, k); };
   // The user sets the corners' numbers when stating a puzzle.
-  cell.accessible = {Accessible::Role::button, name, {press(), decrease()}, true};
-  board.GridDisp[OuterCornerCells[k]].accessible = {
-      Accessible::Role::label,
-      [k, &target] { return cornerName(k) + " target " + target.caption(); },
-      {}};
+  board.GridDisp[CornerCells[k]].accessible = {
+      Accessible::Role::button, name, {press(), decrease()}, true};
+  Cell& target = board.GridDisp[OuterCornerCells[k]];
+  target.accessible = {Accessible::Role::label,
+                       [k, &target] { return cornerName(k) + " target " + target.caption(); },
+                       {}};
   board.NPict[k].accessible = {
       Accessible::Role::image, [k] { return cornerName(k) + " correct"; }, {}};
 }
@@ -91,13 +151,44 @@ std::string spoken(const std::string& caption) {
   return caption;
 }
 
+std::string spokenCell(const Board& board, int cell) {
+  const std::string& caption = board.GridDisp[cell].caption();
+  if (caption != noNumber) return spoken(caption);
+  // One that the user has yet to state.
+  if (cornerOf(cell) != 0 && standing(board, cornerOf(cell)).empty()) return "not set";
+  bool full = false;
+  for (const Line& line : linesEndingIn(board, cell)) {
+    // The grand result has no value while any other has none.
+    if (!line.hasNumbers()) return spoken(caption);
+    full = full || line.isFullWithoutDigit();
+  }
+  return full ? "no digit" : spoken(caption);
+}
+
 std::string cornerName(int k) {
   return std::string(cornerNames[k]);
 }
 
+std::string spokenRow(const Board& board, int row) {
+  return spokenLine("Row " + numberText(row), rowLine(board, row));
+}
+
+std::string spokenColumn(const Board& board, int column) {
+  return spokenLine("Column " + numberText(column), columnLine(board, column));
+}
+
+std::string spokenCorners(const Board& board) {
+  std::string words = "Corners:";
+  for (int k = 1; k <= 4; ++k) {
+    words += (k == 1 ? " " : ", ") + cornerName(k) + " " + spokenCell(board, CornerCells[k]) +
+             standing(board, k);
+  }
+  return words;
+}
+
 void describeForScreenReaders(Form1& form) {
   for (int cell = 0; cell < boardCells; ++cell) {
-    form.board.GridDisp[cell].accessible = describedCell(cell, form.board.GridDisp[cell]);
+    form.board.GridDisp[cell].accessible = describedCell(cell, form.board);
   }
   for (int k = 1; k <= 4; ++k) describeCorner(k, form.board);
   describeButton(form.NewPuz);

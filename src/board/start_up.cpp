@@ -7,18 +7,16 @@ void StartUp::Form_Load() {
   page_.InitPrintPage();
   Solveit_.Visible = false;
   board_.clear();
-  for (int cell = 0; cell < boardCells; ++cell) setRole(cell);
-  for (int k = 1; k <= 4; ++k) {
-    board_.GridDisp[CornerCells[k]].backcolor = ColGreen;
-    board_.GridDisp[CornerCells[k]].forecolor = ColWhite;
-  }
+  for (int cell = 0; cell < boardCells; ++cell) setLook(cell);
+  board_.colourCorners(ColGreen);
+  for (int k = 1; k <= 4; ++k) board_.GridDisp[CornerCells[k]].forecolor = ColWhite;
   // The top left corner is a number of the puzzle, not one for the player to find.
   board_.GridDisp[CornerCells[1]].enabled = false;
   board_.SetCellTags();
   search_.FindSolution();
 }
 
-void StartUp::setRole(int index) {
+void StartUp::setLook(int index) {
   Cell& cell = board_.GridDisp[index];
   switch (roleOf(index)) {
     case CellRole::outerCorner:

@@ -22,13 +22,13 @@ class StartUp {
         Solveit_(Solveit),
         desktop_(desktop) {}
 
-  /// Gives every cell its start-up look and role, and makes the first puzzle.
+  /// Gives every cell its start-up look, and makes the first puzzle.
   void Form_Load();
   /// Ends the program at once.
   void Form_Unload() { desktop_.endProgram(); }
 
  private:
-  void setRole(int index);
+  void setLook(int index);
 
   Board& board_;
   PrintPage& page_;

@@ -9,11 +9,12 @@
 
 namespace platform {
 
-/// A display cell: a short text in its own colours and border that reports mouse input.
+/// A display cell: a short text in its own colours and border that reports mouse input and typed
+/// characters.
 ///
-/// The window that shows it passes every mouse press and release on; which of them become events
-/// is decided here, so a disabled or hidden cell is silent whatever shows it. A cell with a
-/// `click` handler is a button: it draws its caption greyed while disabled.
+/// The window that shows it passes every mouse press and release on; which presses and
+/// releases become events is decided here, so a disabled or hidden cell is silent whatever shows
+/// it. A cell with a `click` handler is a button: it draws its caption greyed while disabled.
 class CellPane final : public Control {
  public:
   Property<std::string> caption{*this, ""};
@@ -43,6 +44,9 @@ class CellPane final : public Control {
   /// The left button went down and came up again inside the cell, which took input both times and
   /// met no other press in between.
   std::function<void()> click;
+  /// A character was typed while the cell, disabled or not, had the focus; letters are small ones,
+  /// and `shift` tells whether that key was down. The result is whether it means anything there.
+  std::function<bool(char character, bool shift)> typed;
   /// The right button went down; the arguments are the shift state and the point.
   std::function<void(std::int16_t shift, double x, double y)> contextMenu;
 

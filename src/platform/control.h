@@ -36,6 +36,13 @@ class Control : public Observable {
   Accessible accessible;
   Property<bool> Visible{*this, true};
 
+  /// Gives the control the focus, as the keys do; without effect while no window shows it.
+  void SetFocus() const {
+    if (focusWanted) focusWanted();
+  }
+  /// Set by the window that shows the control, if it can have the focus.
+  std::function<void()> focusWanted;
+
  protected:
   ~Control() = default;
 };
@@ -77,16 +84,17 @@ class CommandButton final : public Control {
 };
 
 class CellPane;
-struct Frame;
+class Frame;
 
 using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
 
 /// The controls that a form or a frame holds, from the one farthest back to the one in front.
 using Controls = std::vector<ControlRef>;
 
-/// An etched border without a caption around the controls it holds. It is always shown.
-struct Frame {
-  Place place;
+/// An etched border without a caption around the controls it holds. Hiding it hides the border
+/// alone.
+class Frame final : public Control {
+ public:
   Controls controls;
 };
 

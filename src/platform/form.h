@@ -39,6 +39,10 @@ class Form : public Observable {
   Property<bool> Visible{*this, false};
   /// The user has told the window to close.
   std::function<void()> unload;
+  /// The user has asked for help, by its key.
+  std::function<void()> help;
+  /// A key leads nowhere: beyond the edge of the grid of controls, or from a control outside it.
+  std::function<void()> edgeReached;
 
  protected:
   ~Form() = default;

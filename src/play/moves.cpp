@@ -9,73 +9,81 @@
 namespace tessoro {
 namespace {
 
-/// Steps the cell's digit and returns it: upwards from 9 comes 1, downwards from 1 comes 9, and a
-/// cell without a digit counts as 0.
-std::int16_t stepDigit(Cell& cell, platform::MouseButton button) {
+/// The next digit: upwards from 9 comes 1, downwards from 1 comes 9, and what shows no digit counts
+/// as 0.
+std::string nextDigit(std::string_view caption, platform::MouseButton button) {
   const bool down = button == platform::MouseButton::right;
-  int digit = readNumber(cell.caption()) + (down ? -1 : 1);
-  if (!isDigit(digit)) digit = down ? 9 : 1;
-  cell.caption = numberText(digit);
-  return static_cast<std::int16_t>(digit);
+  const int digit = readNumber(caption) + (down ? -1 : 1);
+  return numberText(isDigit(digit) ? digit : down ? 9 : 1);
 }
 
-std::string_view nextOperator(std::string_view text) {
-  if (text.empty() || text == OpTimes) return OpPlus;
-  if (text == OpPlus) return OpMinus;
-  if (text == OpMinus) return OpTimes;
-  return text;
+std::string nextOperator(std::string_view caption) {
+  if (caption.empty() || caption == OpTimes) return std::string(OpPlus);
+  if (caption == OpPlus) return std::string(OpMinus);
+  if (caption == OpMinus) return std::string(OpTimes);
+  return std::string(caption);
 }
 
 }  // namespace
 
 void Moves::GridDisp_MouseDown(int Index, const platform::MousePress& press) {
   if (Index > gridCells) return;
+  const std::string& caption = board_.GridDisp[Index].caption();
+  setCell(Index, isOperator(Index) ? nextOperator(caption) : nextDigit(caption, press.button));
+}
+
+bool Moves::canShow(int index, char character) const {
+  const std::string_view text(&character, 1);
+  if (isOperator(index)) return text == OpPlus || text == OpMinus || text == OpTimes;
+  const bool isNumber = state_.SolveMode ? cornerOf(index) != 0 : roleOf(index) == CellRole::number;
+  return isNumber && isDigit(character - '0');
+}
+
+void Moves::showCharacter(int index, char character) {
+  const std::string caption(1, character);
+  if (board_.GridDisp[index].caption() != caption) setCell(index, caption);
+}
+
+bool Moves::isOperator(int index) const {
+  return board_.GridDisp[index].Tag().starts_with('X');
+}
+
+void Moves::setCell(int index, const std::string& caption) {
   if (state_.SolveMode) {
-    inputCorner(Index, press.button);
+    inputCorner(index, caption);
   } else {
-    play(Index, press.button);
+    play(index, caption);
   }
 }
 
-void Moves::inputCorner(int index, platform::MouseButton button) {
+void Moves::inputCorner(int index, const std::string& caption) {
   Solveit_.enabled = true;
-  if (const int k = cornerOf(index); k != 0) {
-    state_.*cornerTargets[k] = stepDigit(board_.GridDisp[index], button);
-  }
+  const int k = cornerOf(index);
+  if (k == 0) return;
+  board_.GridDisp[index].caption = caption;
+  state_.*cornerTargets[k] = readNumber(caption);
 }
 
-void Moves::play(int index, platform::MouseButton button) {
+void Moves::play(int index, const std::string& caption) {
   if (state_.BoardLocked) return;
-  if (!board_.GridDisp[OuterCornerCells[1]].Visible()) makeFirstMove();
+  if (!board_.GridDisp[OuterCornerCells[1]].Visible()) beginMove();
   Cell& cell = board_.GridDisp[index];
-  if (cell.Tag().starts_with('X')) {
-    moveOperator(index);
-  } else {
-    moveNumber(cell, button);
-  }
+  cell.caption = caption;
+  const std::string_view tag = cell.Tag();
+  results_.UpdateLines(isOperator(index) ? tag.substr(1) : tag);
+  // After a move on one of the two lines that end in cell 49, the cell shows that line's value.
+  const bool ownLine =
+      isOperator(index) && (rowOf(index) == gridSide || columnOf(index) == gridSide);
+  if (!ownLine) results_.UpdateCornerResult();
   cornerCheck_.CheckCorners();
 }
 
 /// Every move but those on a board whose top left corner is wrong begins with this, since a right
 /// corner hides its outer corner cell.
-void Moves::makeFirstMove() {
+void Moves::beginMove() {
   board_.setOuterCornersVisible(true);
   results_.updateAll();
   RightMess_.Visible = true;
-}
-
-void Moves::moveNumber(Cell& cell, platform::MouseButton button) {
-  stepDigit(cell, button);
-  results_.UpdateLines(cell.Tag());
-  results_.UpdateCornerResult();
-}
-
-void Moves::moveOperator(int index) {
-  Cell& cell = board_.GridDisp[index];
-  cell.caption = std::string(nextOperator(cell.caption()));
-  results_.UpdateLines(std::string_view(cell.Tag()).substr(1));
-  // After a move on one of the two lines that end in cell 49, the cell shows that line's value.
-  if (rowOf(index) != gridSide && columnOf(index) != gridSide) results_.UpdateCornerResult();
 }
 
 }  // namespace tessoro

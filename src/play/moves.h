@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "board/board.h"
 #include "board/puzzle_state.h"
 #include "platform/control.h"
@@ -9,8 +11,8 @@
 
 namespace tessoro {
 
-/// What a mouse press on the board does: a move of the player, or, while the user states a puzzle,
-/// the input of a corner's number.
+/// What a mouse press or a typed character on the board does: a move of the player, or, while the
+/// user states a puzzle, the input of a corner's number.
 class Moves {
  public:
   Moves(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -26,13 +28,19 @@ class Moves {
   /// button steps a number down, any other up; an operator moves on with every button. There is no
   /// guard against result, "=" or hole cells: they are disabled and raise no event.
   void GridDisp_MouseDown(int Index, const platform::MousePress& press);
+  /// Whether the character can stand in cell 1..49: a digit 1..9 in a number, and in a corner while
+  /// the user states a puzzle, or an operator.
+  bool canShow(int index, char character) const;
+  /// Has the cell show a character that can stand there, in one move: as if it had stood one step
+  /// before and had been pressed with the left button. One that stands there already is no move.
+  void showCharacter(int index, char character);
 
  private:
-  void inputCorner(int index, platform::MouseButton button);
-  void play(int index, platform::MouseButton button);
-  void makeFirstMove();
-  void moveNumber(Cell& cell, platform::MouseButton button);
-  void moveOperator(int index);
+  bool isOperator(int index) const;
+  void setCell(int index, const std::string& caption);
+  void inputCorner(int index, const std::string& caption);
+  void play(int index, const std::string& caption);
+  void beginMove();
 
   PuzzleState& state_;
   Board& board_;

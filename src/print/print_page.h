@@ -21,8 +21,9 @@ class PrintPage {
 
   PrintPage(const Board& board, const PuzzleState& state) : board_(board), state_(state) {}
 
-  /// Element k is the k-th line of the page; 0 is not used. A line of a slot is 70 characters wide,
-  /// the heading of a puzzle as wide as its text, which is no wider.
+  /// Element k is the k-th line of the page. Of the 81, lines 1..55 are printed; lines up to 75 are
+  /// laid out, the last 20 of them blank; 0 and the rest are not used. A line of a slot is 70
+  /// characters wide, the heading of a puzzle as wide as its text, which is no wider.
   std::array<std::string, 81> PrintLines;
 
   /// Lays out three slots of empty grids.

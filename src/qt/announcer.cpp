@@ -1,7 +1,9 @@
 #include "qt/announcer.h"
 
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QEvent>
+#include <QStatusBar>
 #include <utility>
 
 namespace qt {
@@ -11,22 +13,53 @@ namespace {
 /// it out where it is that of the focus or the window. Its event for sentences is as old.
 constexpr bool readsNewNames = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
-/// What screen readers read out whenever it is shown.
-class Notification final : public QWidget {
- public:
-  using QWidget::QWidget;
-};
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+
+void say(QWidget& window, const QString& sentence) {
+  QAccessibleAnnouncementEvent event(&window, sentence);
+  QAccessible::updateAccessibility(&event);
+}
+
+/// An event leaves nothing behind.
+void forget(QWidget& /*window*/) {}
+
+#else
+
+/// Of a widget that screen readers read out whenever it is shown, since the toolkit has no event
+/// for sentences.
+constexpr const char* notificationName = "notification";
 
 QAccessibleInterface* notificationInterface(const QString& /*className*/, QObject* object) {
-  auto* notification = dynamic_cast<Notification*>(object);
-  if (notification == nullptr) return nullptr;
-  return new QAccessibleWidget(notification, QAccessible::Notification);
+  if (object->objectName() != notificationName) return nullptr;
+  return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Notification);
 }
+
+void say(QWidget& window, const QString& sentence) {
+  auto* notification = window.findChild<QWidget*>(notificationName);
+  if (notification == nullptr) {
+    QAccessible::installFactory(notificationInterface);  // which it does once
+    // In a status bar it is read out without the word "notification" before it.
+    auto* bar = new QStatusBar(&window);
+    notification = new QWidget(bar);
+    notification->setObjectName(notificationName);
+    bar->resize(0, 0);
+    bar->show();
+  }
+  notification->hide();
+  notification->setAccessibleName(sentence);
+  notification->show();
+}
+
+/// Else it would be read out again when the window is shown again.
+void forget(QWidget& window) {
+  if (auto* notification = window.findChild<QWidget*>(notificationName)) notification->hide();
+}
+
+#endif
 
 }  // namespace
 
 Announcer::Announcer(QWidget& window) : window_(window) {
-  QAccessible::installFactory(notificationInterface);
   QAccessible::installActivationObserver(this);
   window.installEventFilter(this);
 }
@@ -50,6 +83,7 @@ void Announcer::speakLater() {
 /// A sentence may have waited for the window to come up.
 bool Announcer::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ActivationChange && window_.isActiveWindow()) speakLater();
+  if (event->type() == QEvent::Hide) forget(window_);
   return QObject::eventFilter(watched, event);
 }
 
@@ -69,23 +103,13 @@ void Announcer::introduce(const QString& text) {
 void Announcer::speak() {
   const QString sentence = takeSentence();
   if (sentence.isEmpty()) return;
-  QWidget* focused = window_.focusWidget();
-  if (std::exchange(focusFirst_, false) && focused != nullptr && focused->hasFocus()) {
+  QWidget* focused = QApplication::focusWidget();
+  if (focused != nullptr && focused == focusInMenu_) {
     QAccessibleEvent event(focused, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
   }
-#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
-  QAccessibleAnnouncementEvent event(&window_, sentence);
-  QAccessible::updateAccessibility(&event);
-#else
-  if (notification_ == nullptr) {
-    notification_ = new Notification(&window_);
-    notification_->resize(0, 0);
-  }
-  notification_->hide();
-  notification_->setAccessibleName(sentence);
-  notification_->show();
-#endif
+  focusInMenu_ = nullptr;
+  say(window_, sentence);
 }
 
 void setTitle(QWidget& window, const QString& title) {
@@ -97,8 +121,9 @@ void setTitle(QWidget& window, const QString& title) {
 }
 
 void tellNewName(QWidget& widget) {
-  if (readsNewNames && widget.hasFocus()) return;
-  QAccessibleEvent event(&widget, QAccessible::NameChanged);
+  // The focus told once more makes them forget the old name as well, and they read out nothing.
+  const bool readOut = readsNewNames && widget.hasFocus();
+  QAccessibleEvent event(&widget, readOut ? QAccessible::Focus : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }
 

@@ -21,9 +21,9 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   /// description twice, else as the description, since a sentence would have them name a dialog
   /// twice.
   void introduce(const QString& text);
-  /// Has the focus told before the next sentence: a menu has closed, which the toolkit takes for no
-  /// change.
-  void tellFocusFirst() { focusFirst_ = true; }
+  /// A command has been chosen from the window's menu. Has the focus told before the next sentence,
+  /// unless it moves: the toolkit takes it for no change that the menu is gone.
+  void menuClosed() { focusInMenu_ = window_.focusWidget(); }
   /// The sentence that a screen reader is to hear but has not yet, for the caller to have it
   /// spoken.
   QString takeSentence();
@@ -36,10 +36,8 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   void speakLater();
 
   QWidget& window_;
-  QString sentence_;  ///< not spoken yet
-  bool focusFirst_ = false;
-  /// Made when first needed, which it never is where the toolkit has an event for sentences.
-  [[maybe_unused]] QWidget* notification_ = nullptr;
+  QString sentence_;                      ///< not spoken yet
+  const QWidget* focusInMenu_ = nullptr;  ///< what had the focus when the menu closed
 };
 
 /// Sets the title of a window. Screen readers that would read it out are not told: a sentence says

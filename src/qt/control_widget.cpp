@@ -10,6 +10,7 @@
 #include <variant>
 
 #include "platform/cell_pane.h"
+#include "qt/announcer.h"
 #include "qt/convert.h"
 #include "qt/form_view.h"
 #include "qt/modal.h"
@@ -21,17 +22,9 @@ using platform::Accessible;
 using platform::CellPane;
 using platform::MouseButton;
 
+/// Left, right and middle have the same numbers there and here; those beyond are all one.
 MouseButton toMouseButton(Qt::MouseButton button) {
-  switch (button) {
-    case Qt::LeftButton:
-      return MouseButton::left;
-    case Qt::RightButton:
-      return MouseButton::right;
-    case Qt::MiddleButton:
-      return MouseButton::middle;
-    default:
-      return MouseButton::other;
-  }
+  return static_cast<MouseButton>(std::min<int>(button, static_cast<int>(MouseButton::other)));
 }
 
 std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
@@ -41,25 +34,16 @@ std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 /// The keys that stand for a press of a mouse button.
-constexpr std::array<std::pair<int, MouseButton>, 6> pressingKeys{
+constexpr std::array<std::pair<int, MouseButton>, 4> pressingKeys{
     {{Qt::Key_Space, MouseButton::left},
      {Qt::Key_Return, MouseButton::left},
      {Qt::Key_Enter, MouseButton::left},
-     {Qt::Key_Plus, MouseButton::left},
-     {Qt::Key_Minus, MouseButton::right},
      {Qt::Key_Backspace, MouseButton::right}}};
 
 QAccessible::Role toRole(Accessible::Role role) {
-  switch (role) {
-    case Accessible::Role::button:
-      return QAccessible::Button;
-    case Accessible::Role::image:
-      return QAccessible::Graphic;
-    case Accessible::Role::label:
-    case Accessible::Role::none:
-      break;
-  }
-  return QAccessible::StaticText;
+  return role == Accessible::Role::button  ? QAccessible::Button
+         : role == Accessible::Role::image ? QAccessible::Graphic
+                                           : QAccessible::StaticText;
 }
 
 /// The control as assistive technology meets it.
@@ -68,10 +52,9 @@ class AccessibleControl final : public QAccessibleWidget {
   explicit AccessibleControl(ControlWidget& control)
       : QAccessibleWidget(&control, toRole(control.accessible().role)), control_(control) {}
 
-  /// The widget is never disabled, since disabled controls can be read as well.
   QAccessible::State state() const override {
     QAccessible::State state = QAccessibleWidget::state();
-    state.disabled = !control_.takesInput();
+    state.disabled = control_.isDisabled();
     return state;
   }
   QString text(QAccessible::Text kind) const override {
@@ -80,7 +63,7 @@ class AccessibleControl final : public QAccessibleWidget {
 
   QStringList actionNames() const override {
     QStringList names;
-    if (control_.takesInput() && control_.isVisible()) {
+    if (!control_.isDisabled() && control_.isVisible()) {
       for (const Accessible::Action& action : control_.accessible().actions) {
         names += toQString(action.name);
       }
@@ -106,11 +89,18 @@ QAccessibleInterface* controlInterface(const QString& /*className*/, QObject* ob
 }  // namespace
 
 ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place, FormView& view)
-    : QWidget(&view), control_(control), place_(place), view_(view) {
+    : QWidget(&view),
+      control_(control),
+      cell_(std::holds_alternative<CellPane*>(control) ? std::get<CellPane*>(control) : nullptr),
+      place_(place),
+      view_(view),
+      name_(accessible().name()),
+      disabled_(isDisabled()) {
   QAccessible::installFactory(controlInterface);  // once is enough, and the toolkit sees to that
   // The view draws, also where this is shown or hidden.
   setUpdatesEnabled(false);
   setGeometry(pixelRect(place));
+  setVisible(base(control).Visible());
   if (accessible().inGrid) {
     setFocusPolicy(Qt::ClickFocus);  // the view lets Tab reach one of the grid
   } else if (accessible().role == Accessible::Role::button) {
@@ -118,16 +108,28 @@ ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place,
   }
 }
 
-CellPane* ControlWidget::cell() const {
-  auto* const* cell = std::get_if<CellPane*>(&control_);
-  return cell == nullptr ? nullptr : *cell;
+bool ControlWidget::isDisabled() const {
+  return cell_ != nullptr && !cell_->enabled();
+}
+
+void ControlWidget::tellClients() {
+  if (accessible().name() != name_) {
+    name_ = accessible().name();
+    tellNewName(*this);
+  }
+  if (isDisabled() != disabled_) {
+    disabled_ = isDisabled();
+    QAccessible::State changes;
+    changes.disabled = true;
+    QAccessibleStateChangeEvent event(this, changes);
+    QAccessible::updateAccessibility(&event);
+  }
 }
 
 void ControlWidget::press(MouseButton button) {
-  CellPane* pressed = cell();
-  if (pressed == nullptr) return;
-  pressed->press({.button = button});
-  pressed->release(button, true);
+  if (cell_ == nullptr) return;
+  cell_->press({.button = button});
+  cell_->release(button, true);
 }
 
 void ControlWidget::pressLater(MouseButton button) {
@@ -140,35 +142,37 @@ void ControlWidget::pressLater(MouseButton button) {
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
   view_.setKeysUsed(false);
   // While one button is held down, the others come here wherever they are pressed.
-  if (cell() == nullptr || !rect().contains(event->position().toPoint())) return;
-  cell()->press({toMouseButton(event->button()), shiftState(event->modifiers()),
-                 event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
+  if (cell_ == nullptr || !rect().contains(event->position().toPoint())) return;
+  cell_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
+                event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (cell() == nullptr) return;
-  cell()->release(toMouseButton(event->button()), rect().contains(event->position().toPoint()));
+  if (cell_ == nullptr) return;
+  cell_->release(toMouseButton(event->button()), rect().contains(event->position().toPoint()));
 }
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
-  const Qt::KeyboardModifiers others = ~(Qt::ShiftModifier | Qt::KeypadModifier);
-  const bool plain = (event->modifiers() & others) == 0;
-  const auto* found =
+  const Qt::KeyboardModifiers modifiers =
+      event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  const bool plain = modifiers == Qt::NoModifier;
+  const bool control = modifiers == Qt::ControlModifier;
+  const auto* pressing =
       std::ranges::find(pressingKeys, event->key(), &std::pair<int, MouseButton>::first);
-  if (plain && found != pressingKeys.end()) {
+  if (plain && pressing != pressingKeys.end()) {
     view_.setKeysUsed(true);
-    if (!event->isAutoRepeat()) press(found->second);  // a button held down does not repeat either
-  } else if (!plain || !accessible().inGrid || !view_.moveFocus(*this, event->key())) {
+    press(pressing->second);
+  } else if (plain && type(event->text(), event->modifiers().testFlag(Qt::ShiftModifier))) {
+    view_.setKeysUsed(true);
+  } else if (!(plain || control) || !view_.moveFocus(*this, event->key(), control)) {
     event->ignore();
   }
 }
 
-void ControlWidget::focusInEvent(QFocusEvent* /*event*/) {
-  view_.focusMoved();
-}
-
-void ControlWidget::focusOutEvent(QFocusEvent* /*event*/) {
-  view_.focusMoved();
+bool ControlWidget::type(const QString& text, bool shift) {
+  // No character beyond ASCII means anything.
+  const char character = text.size() == 1 ? text.front().toLower().toLatin1() : '\0';
+  return character != '\0' && cell_ != nullptr && cell_->typed && cell_->typed(character, shift);
 }
 
 }  // namespace qt

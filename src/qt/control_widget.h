@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 #include "platform/control.h"
 #include "platform/mouse.h"
@@ -20,9 +21,14 @@ class ControlWidget final : public QWidget {
 
   /// In the form's client area, twips.
   const platform::Place& place() const { return place_; }
-  const platform::Accessible& accessible() const { return accessibleOf(control_); }
-  bool takesInput() const { return qt::takesInput(control_); }
+  const platform::Accessible& accessible() const { return base(control_).accessible; }
+  /// Whether it is a disabled cell. The widget itself is enabled all the same: what is disabled can
+  /// be read as well, and says why it does nothing.
+  bool isDisabled() const;
 
+  /// Tells clients of assistive technology the name and the state, if they have changed. What is
+  /// shown, hidden or has the focus the toolkit tells by itself.
+  void tellClients();
   /// Presses and releases a mouse button on the control, once the caller has returned: a client of
   /// assistive technology that waits for it to be done could not answer a message box that it
   /// brings up.
@@ -32,16 +38,17 @@ class ControlWidget final : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  platform::CellPane* cell() const;
   void press(platform::MouseButton button);
+  bool type(const QString& text, bool shift);
 
   DrawnControl control_;
+  platform::CellPane* cell_;  ///< the same, if it is a cell
   platform::Place place_;
   FormView& view_;
+  std::string name_;  ///< as clients were last told
+  bool disabled_;     ///< the same
 };
 
 }  // namespace qt

@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "platform/cell_pane.h"
 #include "qt/convert.h"
 
 namespace qt {
@@ -24,9 +22,8 @@ int lineWidth(const Canvas& canvas) {
   return std::max(1, static_cast<int>(canvas.scale));
 }
 
-void drawEdges(const Canvas& canvas, const QRect& rect, platform::Colour top, platform::Colour left,
-               platform::Colour right, platform::Colour bottom) {
-  const int line = lineWidth(canvas);
+void drawEdges(const Canvas& canvas, const QRect& rect, int line, platform::Colour top,
+               platform::Colour left, platform::Colour right, platform::Colour bottom) {
   fill(canvas, {rect.left(), rect.top(), rect.width(), line}, top);
   fill(canvas, {rect.left(), rect.top(), line, rect.height()}, left);
   fill(canvas, {rect.right() - line + 1, rect.top(), line, rect.height()}, right);
@@ -52,8 +49,8 @@ QColor greyed(const Look& look, const QPalette& palette) {
 
 void draw(const CellPane& cell, const Look& look, const Canvas& canvas) {
   fill(canvas, canvas.rect, look.backcolor);
-  drawEdges(canvas, canvas.rect, cell.bordertop, cell.borderleft, cell.borderright,
-            cell.borderbottom);
+  drawEdges(canvas, canvas.rect, lineWidth(canvas), cell.bordertop, cell.borderleft,
+            cell.borderright, cell.borderbottom);
   drawText(canvas, look.text, {cell.font, cell.fontsize, cell.fontbold},
            look.greyed ? greyed(look, canvas.palette) : toQColor(look.forecolor, canvas.palette));
 }
@@ -77,9 +74,9 @@ void draw(const Frame& /*frame*/, const Look& /*look*/, const Canvas& canvas) {
   using platform::shadow3D;
   const int line = lineWidth(canvas);
   fill(canvas, canvas.rect, platform::buttonFace);
-  drawEdges(canvas, canvas.rect.adjusted(line, line, 0, 0), highlight3D, highlight3D, highlight3D,
-            highlight3D);
-  drawEdges(canvas, canvas.rect.adjusted(0, 0, -line, -line), shadow3D, shadow3D, shadow3D,
+  drawEdges(canvas, canvas.rect.adjusted(line, line, 0, 0), line, highlight3D, highlight3D,
+            highlight3D, highlight3D);
+  drawEdges(canvas, canvas.rect.adjusted(0, 0, -line, -line), line, shadow3D, shadow3D, shadow3D,
             shadow3D);
 }
 
@@ -98,28 +95,9 @@ Look look(const Label& label) {
           .forecolor = label.forecolor};
 }
 
-Look look(const PictureBox& box) {
-  return {.visible = box.Visible()};
+Look look(const platform::Control& control) {
+  return {.visible = control.Visible()};
 }
-
-Look look(const Frame& /*frame*/) {
-  return {};
-}
-
-const platform::Accessible& accessible(const platform::Control& control) {
-  return control.accessible;
-}
-
-const platform::Accessible& accessible(const Frame& /*frame*/) {
-  static const platform::Accessible none;
-  return none;
-}
-
-void listen(platform::Observable& control, std::function<void()> listener) {
-  control.changed = std::move(listener);
-}
-
-void listen(Frame& /*frame*/, const std::function<void()>& /*listener*/) {}
 
 }  // namespace
 
@@ -131,30 +109,16 @@ void drawControl(const DrawnControl& control, const Look& look, const Canvas& ca
 void drawRing(const Canvas& canvas) {
   constexpr platform::Colour dark = platform::palette[0];
   constexpr platform::Colour bright = platform::palette[14];
-  const int line = lineWidth(canvas);
+  const int line = std::max(1, qRound(canvas.scale));
   QRect rect = canvas.rect;
   for (const platform::Colour colour : {dark, bright, bright, dark}) {
-    drawEdges(canvas, rect, colour, colour, colour, colour);
+    drawEdges(canvas, rect, line, colour, colour, colour, colour);
     rect.adjust(line, line, -line, -line);
   }
 }
 
 Look lookOf(const DrawnControl& control) {
   return std::visit([](const auto* it) { return look(*it); }, control);
-}
-
-bool takesInput(const DrawnControl& control) {
-  auto* const* cell = std::get_if<CellPane*>(&control);
-  return cell == nullptr || (*cell)->enabled();
-}
-
-const platform::Accessible& accessibleOf(const DrawnControl& control) {
-  return std::visit([](const auto* it) -> const platform::Accessible& { return accessible(*it); },
-                    control);
-}
-
-void onChange(const DrawnControl& control, std::function<void()> listener) {
-  std::visit([&](auto* it) { listen(*it, std::move(listener)); }, control);
 }
 
 }  // namespace qt

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QPainter>
-#include <functional>
 #include <string>
 #include <variant>
 
+#include "platform/cell_pane.h"
 #include "platform/control.h"
 
 namespace qt {
@@ -12,6 +12,11 @@ namespace qt {
 /// The controls that a form's view draws itself; the others are widgets of the toolkit.
 using DrawnControl =
     std::variant<platform::CellPane*, platform::Label*, platform::PictureBox*, platform::Frame*>;
+
+/// What all of them have in common.
+inline platform::Control& base(const DrawnControl& control) {
+  return std::visit([](auto* it) -> platform::Control& { return *it; }, control);
+}
 
 /// What a control shows at the moment.
 struct Look {
@@ -40,11 +45,5 @@ void drawRing(const Canvas& canvas);
 
 /// What the control shows now.
 Look lookOf(const DrawnControl& control);
-/// Whether a press can have an effect: false for disabled cells.
-bool takesInput(const DrawnControl& control);
-/// How the control presents itself; frames have no role.
-const platform::Accessible& accessibleOf(const DrawnControl& control);
-/// Has `listener` called when a property of the control changes.
-void onChange(const DrawnControl& control, std::function<void()> listener);
 
 }  // namespace qt

@@ -1,6 +1,5 @@
 #include "qt/form_dialog.h"
 
-#include <QVBoxLayout>
 #include <variant>
 
 #include "qt/convert.h"
@@ -27,12 +26,8 @@ QString textOf(const platform::Form& form) {
 FormDialog::FormDialog(platform::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
   setWindowTitle(toQString(form.caption()));
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
-  auto* box = new QVBoxLayout(this);
-  box->setContentsMargins(0, 0, 0, 0);
-  box->setSizeConstraint(QLayout::SetFixedSize);
-  auto* view = new FormView(form, this);
-  box->addWidget(view);
-  view->focusFirst();
+  setFixedSize((new FormView(form, this))->size());
+  focusNextChild();
   announcer_.introduce(textOf(form));
   setWindowModality(Qt::WindowModal);
   form.changed = [this] {

@@ -1,17 +1,14 @@
 #include "qt/form_view.h"
 
-#include <QAccessible>
 #include <QApplication>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstdlib>
-#include <ranges>
 #include <utility>
 
-#include "platform/cell_pane.h"
-#include "qt/announcer.h"
 #include "qt/control_widget.h"
 #include "qt/convert.h"
 #include "qt/text_view.h"
@@ -36,15 +33,28 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
   return result;
 }
 
-bool isWhole(double scale) {
-  return scale == std::floor(scale);
-}
-
-/// The steps to the right and downwards that an arrow key goes; none for other keys.
-QPoint directionOf(int key) {
-  const auto is = [key](Qt::Key arrow) { return key == arrow ? 1 : 0; };
-  return {is(Qt::Key_Right) - is(Qt::Key_Left), is(Qt::Key_Down) - is(Qt::Key_Up)};
-}
+/// Where a key leads in the grid: so many steps to the right, then downwards, each a single one or
+/// on to the edge.
+struct Way {
+  int key = 0;
+  bool control = false;
+  QPoint across;
+  QPoint down;
+  bool toEdge = false;
+};
+constexpr QPoint stay(0, 0);
+constexpr QPoint toLeft(-1, 0);
+constexpr QPoint toRight(1, 0);
+constexpr QPoint upwards(0, -1);
+constexpr QPoint downwards(0, 1);
+constexpr std::array<Way, 8> ways{{{Qt::Key_Left, false, toLeft, stay, false},
+                                   {Qt::Key_Right, false, toRight, stay, false},
+                                   {Qt::Key_Up, false, stay, upwards, false},
+                                   {Qt::Key_Down, false, stay, downwards, false},
+                                   {Qt::Key_Home, false, toLeft, stay, true},
+                                   {Qt::Key_End, false, toRight, stay, true},
+                                   {Qt::Key_Home, true, toLeft, upwards, true},
+                                   {Qt::Key_End, true, toRight, downwards, true}}};
 
 }  // namespace
 
@@ -52,69 +62,70 @@ QRect pixelRect(const platform::Place& place) {
   return pixelRectAt(place, 1, {});
 }
 
-FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent) {
+FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent), form_(form) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setFixedSize(pixelRect({0, 0, form.clientWidth, form.clientHeight}).size());
   addAll(form.controls, {});
-  QAccessible::installActivationObserver(this);
+  connect(qApp, &QApplication::focusChanged, this, &FormView::focusMoved);
 }
 
-// A variant of pointers always has a value. NOLINTNEXTLINE(bugprone-exception-escape)
 FormView::~FormView() {
-  for (const Item& item : items_) onChange(item.control, nullptr);
-  QAccessible::removeActivationObserver(this);
-  // Now, while the view is whole: a widget that goes passes the focus on, and tells the view.
-  items_.clear();
-  qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+  for (const Item& item : items_) {
+    base(item.control).changed = nullptr;
+    base(item.control).focusWanted = nullptr;
+  }
+  // The widgets that are about to go pass the focus on.
+  disconnect(qApp, nullptr, this, nullptr);
 }
+
+// Drawing
 
 void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
-  const auto addAtPlace = [&](auto* control) {
-    const platform::Place& place = control->place;
-    this->add(*control,
-              {holder.left + place.left, holder.top + place.top, place.width, place.height});
+  const auto addAtPlace = [this, &holder](auto* control) {
+    const auto& [left, top, width, height] = control->place;
+    add(control, {holder.left + left, holder.top + top, width, height});
   };
   for (const platform::ControlRef& control : controls) std::visit(addAtPlace, control);
 }
 
-template <typename Control>
-void FormView::add(Control& control, const platform::Place& place) {
-  const std::size_t index = items_.size();
-  Item& item = items_.emplace_back(Item{&control, place, lookOf(&control)});
-  onChange(&control, [this, index] { markStale(index); });
-  if (accessibleOf(&control).role == platform::Accessible::Role::none) return;
-  item.widget = new ControlWidget(&control, place, *this);
-  item.widget->setVisible(item.look.visible);
-  item.enabled = takesInput(&control);
-  if (current_ == nullptr && accessibleOf(&control).inGrid) setCurrent(item.widget);
+void FormView::add(DrawnControl control, const platform::Place& place) {
+  base(control).changed = [this, item = items_.size()] { markStale(item); };
+  Item& item = items_.emplace_back(Item{control, place, lookOf(control)});
+  const platform::Accessible& accessible = base(control).accessible;
+  if (accessible.role == platform::Accessible::Role::none) return;
+  item.widget = new ControlWidget(control, place, *this);
+  // As Tab would, which the toolkit counts as use of the keyboard.
+  base(control).focusWanted = [widget = item.widget] { widget->setFocus(Qt::TabFocusReason); };
+  if (current_ == nullptr && accessible.inGrid) setCurrent(item.widget);
 }
 
-void FormView::add(platform::Frame& frame, const platform::Place& place) {
-  add<platform::Frame>(frame, place);
-  addAll(frame.controls, place);
+void FormView::add(platform::Frame* frame, const platform::Place& place) {
+  add(DrawnControl(frame), place);
+  addAll(frame->controls, place);
 }
 
-void FormView::add(platform::TextBox& box, const platform::Place& place) {
-  auto* view = new TextView(box, this);
+void FormView::add(platform::TextBox* box, const platform::Place& place) {
+  (new TextView(*box, this))->setGeometry(pixelRect(place));
+}
+
+void FormView::add(platform::CommandButton* button, const platform::Place& place) {
+  auto* view = new QPushButton(toQString(button->caption), this);
+  view->setFont(toQFont(button->font, 1, logicalDpiY()));
   view->setGeometry(pixelRect(place));
-}
-
-void FormView::add(platform::CommandButton& button, const platform::Place& place) {
-  auto* view = new QPushButton(toQString(button.caption), this);
-  view->setFont(toQFont(button.font, 1, logicalDpiY()));
-  view->setGeometry(pixelRect(place));
-  connect(view, &QPushButton::clicked, this, [&button] {
-    if (button.click) button.click();
+  connect(view, &QPushButton::clicked, this, [button] {
+    if (button->click) button->click();
   });
 }
 
-/// Changes are gathered until the handler that makes them is done, so that what changes and changes
-/// back is not drawn at all.
+/// Changes are gathered until the handler that makes them is done or lets events be processed, so
+/// that what changes and changes back is not drawn at all.
 void FormView::markStale(std::size_t item) {
-  if (stale_.empty()) {
-    QMetaObject::invokeMethod(this, [this] { refreshStale(); }, Qt::QueuedConnection);
-  }
+  if (stale_.empty()) refreshSoon();
   stale_.push_back(item);
+}
+
+void FormView::refreshSoon() {
+  QMetaObject::invokeMethod(this, [this] { refreshStale(); }, Qt::QueuedConnection);
 }
 
 void FormView::refreshStale() {
@@ -122,17 +133,17 @@ void FormView::refreshStale() {
   for (const std::size_t i : changed) {
     Item& item = items_[i];
     const Look before = std::exchange(item.look, lookOf(item.control));
-    if (item.look != before && (item.look.visible || before.visible)) updatePlace(item.place, i);
+    if (item.look != before && (item.look.visible || before.visible)) updateItem(i);
     if (item.widget != nullptr && item.look.visible) item.widget->show();
   }
   // Only now, so that the focus can pass to what is shown instead.
   for (const std::size_t i : changed) {
     const Item& item = items_[i];
-    if (item.widget == nullptr) continue;
-    if (!item.look.visible) hide(*item.widget);
+    if (item.widget != nullptr && !item.look.visible) hide(*item.widget);
   }
-  for (Item& item : items_) {
-    if (item.widget != nullptr) tellClients(item);
+  if (yielding_) return;
+  for (const Item& item : items_) {
+    if (item.widget != nullptr) item.widget->tellClients();
   }
 }
 
@@ -147,91 +158,23 @@ void FormView::hide(ControlWidget& widget) {
   widget.hide();
 }
 
-/// The toolkit tells clients of assistive technology what is shown, hidden or focused; names and
-/// states are told here.
-void FormView::tellClients(Item& item) {
-  const bool wasEnabled = std::exchange(item.enabled, item.widget->takesInput());
-  if (!QAccessible::isActive()) return;
-  const std::string before = std::exchange(item.name, item.widget->accessible().name());
-  if (item.name != before) tellNewName(*item.widget);
-  if (item.enabled != wasEnabled) {
-    QAccessible::State changes;
-    changes.disabled = true;
-    QAccessibleStateChangeEvent event(item.widget, changes);
-    QAccessible::updateAccessibility(&event);
-  }
+void FormView::setYielding(bool yielding) {
+  yielding_ = yielding;
+  if (!yielding) refreshSoon();
 }
 
-/// From now on clients are told of names that are not these any more.
-void FormView::accessibilityActiveChanged(bool /*active*/) {
-  for (Item& item : items_) {
-    if (item.widget != nullptr) item.name = item.widget->accessible().name();
-  }
-}
-
-void FormView::setCurrent(ControlWidget* widget) {
-  if (current_ != nullptr) current_->setFocusPolicy(Qt::ClickFocus);
-  current_ = widget;
-  current_->setFocusPolicy(Qt::StrongFocus);
-}
-
-void FormView::focusMoved() {
-  if (items_.empty()) return;  // as the view ends
-  auto* focused = dynamic_cast<ControlWidget*>(QApplication::focusWidget());
-  if (focused != nullptr && focused->parentWidget() != this) focused = nullptr;
-  if (focused != nullptr && focused->accessible().inGrid && focused != current_) {
-    setCurrent(focused);
-  }
-  const ControlWidget* ringed =
-      window()->testAttribute(Qt::WA_KeyboardFocusChange) ? focused : nullptr;
-  const ControlWidget* before = std::exchange(ringed_, ringed);
-  if (ringed == before) return;
-  for (const ControlWidget* widget : {before, ringed}) {
-    if (widget != nullptr) updatePlace(widget->place(), items_.size());
-  }
-}
-
-void FormView::setKeysUsed(bool used) {
-  window()->setAttribute(Qt::WA_KeyboardFocusChange, used);
-  focusMoved();
-}
-
-void FormView::updatePlace(const platform::Place& place, std::size_t above) {
-  QRegion region(pixelRect(place));
-  for (std::size_t i = above + 1; i < items_.size(); ++i) {
+void FormView::updateItem(std::size_t item) {
+  QRegion region(pixelRect(items_[item].place));
+  for (std::size_t i = item + 1; i < items_.size(); ++i) {
     if (items_[i].look.visible) region -= pixelRect(items_[i].place);
   }
+  updateRegion(region);
+}
+
+void FormView::updateRegion(const QRegion& region) {
   // At a fractional scale the toolkit may cut a pixel off the edges of what is to be repainted.
-  const int margin = isWhole(devicePixelRatioF()) ? 0 : 1;
+  const int margin = devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
   for (const QRect& rect : region) update(rect.adjusted(-margin, -margin, margin, margin));
-}
-
-void FormView::focusFirst() {
-  for (QWidget* widget : findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-    if ((widget->focusPolicy() & Qt::TabFocus) != 0) return widget->setFocus();
-  }
-}
-
-bool FormView::moveFocus(const ControlWidget& from, int key) {
-  const QPoint direction = directionOf(key);
-  if (direction.isNull()) return false;
-  setKeysUsed(true);
-  // Of the controls in the same row or column, the nearest in this direction.
-  ControlWidget* nearest = nullptr;
-  int least = 0;
-  for (const Item& item : items_) {
-    if (item.widget == nullptr || !item.look.visible || !item.widget->accessible().inGrid) continue;
-    const QPoint way = item.widget->geometry().center() - from.geometry().center();
-    const int forward = QPoint::dotProduct(way, direction);
-    const int aside = std::abs(way.x() * direction.y()) + std::abs(way.y() * direction.x());
-    const bool aligned = 2 * aside < (direction.x() != 0 ? from.height() : from.width());
-    if (forward <= 0 || !aligned || (nearest != nullptr && forward >= least)) continue;
-    nearest = item.widget;
-    least = forward;
-  }
-  // For this reason the toolkit counts it as use of the keyboard.
-  if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
-  return true;
 }
 
 void FormView::paintEvent(QPaintEvent* event) {
@@ -251,7 +194,8 @@ void FormView::paintEvent(QPaintEvent* event) {
   std::vector<Piece> pieces;
   const QRegion all = pixelRegion(event->region(), toPixels);
   QRegion left = all;
-  for (const Item& item : std::views::reverse(items_)) {
+  for (std::size_t i = items_.size(); i-- > 0;) {
+    const Item& item = items_[i];
     if (!item.look.visible) continue;
     const QRect rect = pixelRectAt(item.place, scale, origin);
     const QRegion region = left & rect;
@@ -272,6 +216,68 @@ void FormView::paintEvent(QPaintEvent* event) {
     painter.setClipRegion(all);
     drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, colours});
   }
+}
+
+// The keys
+
+void FormView::setCurrent(ControlWidget* widget) {
+  if (current_ != nullptr) current_->setFocusPolicy(Qt::ClickFocus);
+  current_ = widget;
+  current_->setFocusPolicy(Qt::StrongFocus);
+}
+
+void FormView::focusMoved() {
+  auto* focused = dynamic_cast<ControlWidget*>(QApplication::focusWidget());
+  if (focused != nullptr && focused->parentWidget() != this) focused = nullptr;
+  if (focused != nullptr && focused->accessible().inGrid) setCurrent(focused);
+  const ControlWidget* ringed =
+      window()->testAttribute(Qt::WA_KeyboardFocusChange) ? focused : nullptr;
+  const ControlWidget* before = std::exchange(ringed_, ringed);
+  if (ringed == before) return;
+  // The ring lies over what covers its control, too.
+  for (const ControlWidget* widget : {before, ringed}) {
+    if (widget != nullptr) updateRegion(widget->geometry());
+  }
+}
+
+void FormView::setKeysUsed(bool used) {
+  window()->setAttribute(Qt::WA_KeyboardFocusChange, used);
+  focusMoved();
+}
+
+ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) const {
+  // By half a control, so that none is passed over.
+  const QPoint step = direction * (of.width() / 2);
+  if (step.isNull()) return nullptr;
+  for (QPoint at = of.geometry().center() + step; rect().contains(at); at += step) {
+    auto* next = dynamic_cast<ControlWidget*>(childAt(at));
+    if (next != nullptr && next != &of && next->accessible().inGrid) return next;
+  }
+  return nullptr;
+}
+
+bool FormView::moveFocus(ControlWidget& from, int key, bool control) {
+  const auto* way = std::ranges::find_if(
+      ways, [&](const Way& it) { return it.key == key && it.control == control; });
+  if (way == ways.end()) return false;
+  setKeysUsed(true);
+  ControlWidget* to = &from;
+  if (from.accessible().inGrid) {
+    for (const QPoint direction : {way->across, way->down}) {
+      for (ControlWidget* next = neighbour(*to, direction); next != nullptr;
+           next = way->toEdge ? neighbour(*to, direction) : nullptr) {
+        to = next;
+      }
+    }
+  } else if (key == Qt::Key_Up && current_ != nullptr) {
+    to = current_;
+  }
+  if (to != &from) {
+    to->setFocus(Qt::TabFocusReason);
+  } else if (form_.edgeReached) {
+    form_.edgeReached();
+  }
+  return true;
 }
 
 void FormView::mousePressEvent(QMouseEvent* /*event*/) {

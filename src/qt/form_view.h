@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QAccessible>
 #include <QWidget>
 #include <vector>
 
@@ -14,7 +13,8 @@ class ControlWidget;
 /// The rectangle of a place in the client area, in device-independent pixels.
 QRect pixelRect(const platform::Place& place);
 
-/// The client area of a form: draws its controls, and has the toolkit do the rest.
+/// The client area of a form. It has two jobs, to draw the form's controls and to say where the
+/// keys lead; the toolkit does the rest.
 ///
 /// The controls share one widget to be drawn in, because a widget begins and ends at whole
 /// device-independent pixels. At a scale factor such as 1.25 those do not fall on the screen's
@@ -22,24 +22,25 @@ QRect pixelRect(const platform::Place& place);
 /// rounded to a pixel of the screen once, alike for both cells that meet at it. What the mouse, the
 /// keys and assistive technology meet are widgets that lie at the controls' places and draw
 /// nothing.
-class FormView final : public QWidget, private QAccessible::ActivationObserver {
+class FormView final : public QWidget {
  public:
   /// The form has to outlive the view.
   FormView(platform::Form& form, QWidget* parent);
   ~FormView() override;
 
-  /// How often controls have been drawn since the view was made, wholly or in part.
+  /// How often controls have been drawn, wholly or in part. Tests and benchmarks read it, to see
+  /// when a change has reached the screen and that nothing else was drawn.
   long drawnControls() const { return drawnControls_; }
 
-  /// Gives the focus to the first control that Tab reaches.
-  void focusFirst();
+  /// Whether a handler is yielding. The screen then shows the board as it stands, but clients of
+  /// assistive technology are told of it only when the handler is done with it.
+  void setYielding(bool yielding);
 
   // For the widgets of the controls:
-  /// Moves the focus to the next control of the grid in the direction of an arrow key, if there is
-  /// one; false if the key is no arrow.
-  bool moveFocus(const ControlWidget& from, int key);
-  /// The focus has come to a widget of the view, or has left one.
-  void focusMoved();
+  /// Moves the focus where a key leads within the grid, or back to it, and tells the form where
+  /// that is beyond the grid's edge; false if the key leads nowhere. `control` tells whether that
+  /// key is down.
+  bool moveFocus(ControlWidget& from, int key, bool control);
   /// Whether the user works with the keys, which puts a ring around the control with the focus, or
   /// with the mouse, which takes it away.
   void setKeysUsed(bool used);
@@ -49,36 +50,42 @@ class FormView final : public QWidget, private QAccessible::ActivationObserver {
   void mousePressEvent(QMouseEvent* event) override;
 
  private:
+  // Drawing.
   struct Item {
     DrawnControl control;
     platform::Place place;            ///< in the client area, twips
     Look look;                        ///< as the screen shows it, or will after the next repaint
     ControlWidget* widget = nullptr;  ///< none for what can be neither read nor pressed
-    bool enabled = true;              ///< as assistive technology was last told
-    std::string name = {};            ///< the same
   };
 
-  void accessibilityActiveChanged(bool active) override;
   void addAll(const platform::Controls& controls, const platform::Place& holder);
-  /// Adds a control at its place in the client area.
-  template <typename Control>
-  void add(Control& control, const platform::Place& place);
-  void add(platform::Frame& frame, const platform::Place& place);
-  void add(platform::TextBox& box, const platform::Place& place);
-  void add(platform::CommandButton& button, const platform::Place& place);
+  // Each adds a control at its place in the client area.
+  void add(DrawnControl control, const platform::Place& place);
+  void add(platform::Frame* frame, const platform::Place& place);
+  void add(platform::TextBox* box, const platform::Place& place);
+  void add(platform::CommandButton* button, const platform::Place& place);
   void markStale(std::size_t item);
+  void refreshSoon();
   void refreshStale();
   void hide(ControlWidget& widget);
-  static void tellClients(Item& item);
-  void setCurrent(ControlWidget* widget);
-  /// Has the place drawn again, where nothing in front of item `above` covers it.
-  void updatePlace(const platform::Place& place, std::size_t above);
+  /// Has the item drawn again, where nothing in front of it covers it.
+  void updateItem(std::size_t item);
+  void updateRegion(const QRegion& region);
 
-  std::vector<Item> items_;           ///< from back to front
-  std::vector<std::size_t> stale_;    ///< the items that may have changed since the last refresh
-  ControlWidget* current_ = nullptr;  ///< the one of the grid that Tab reaches
-  const ControlWidget* ringed_ = nullptr;  ///< the one with the ring of the focus, if any
+  platform::Form& form_;
+  std::vector<Item> items_;         ///< from back to front
+  std::vector<std::size_t> stale_;  ///< those that may have changed since the last refresh
+  bool yielding_ = false;
   long drawnControls_ = 0;
+
+  // The keys.
+  void setCurrent(ControlWidget* widget);
+  void focusMoved();
+  /// The next control of the grid in the direction, a step of one; none beyond the edge.
+  ControlWidget* neighbour(const ControlWidget& of, QPoint direction) const;
+
+  ControlWidget* current_ = nullptr;       ///< the one of the grid that Tab reaches
+  const ControlWidget* ringed_ = nullptr;  ///< the one with the ring of the focus, if any
 };
 
 }  // namespace qt

@@ -4,7 +4,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QWindow>
@@ -34,7 +33,6 @@ FormWindow::FormWindow(platform::Form& form)
   middle->setContentsMargins({});
   middle->addWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  view_->focusFirst();
   // Stated, so that the pointer of a box that has closed under it cannot stay.
   setCursor(Qt::ArrowCursor);
   // The toolkit's own title bars maximise windows of a fixed size too, whatever flags they have. As
@@ -82,7 +80,7 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
         action, &QAction::triggered, this,
         [this, entry] {
           if (isBlocked(*this)) return;
-          announcer_.tellFocusFirst();
+          announcer_.menuClosed();
           entry->choose();
         },
         Qt::QueuedConnection);
@@ -92,6 +90,8 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::NoModifier) {
     openMenu();
+  } else if (event->key() == Qt::Key_F1 && event->modifiers() == Qt::NoModifier && form_.help) {
+    form_.help();
   } else if (event->key() == Qt::Key_Alt && (event->modifiers() & ~Qt::AltModifier) == 0) {
     qApp->installEventFilter(this);
   } else {
@@ -114,6 +114,7 @@ bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
 }
 
 void FormWindow::openMenu() {
+  view_->setKeysUsed(true);
   if (menuBar()->actions().isEmpty()) return;
   QAction* first = menuBar()->actions().first();
   menuBar()->setActiveAction(first);

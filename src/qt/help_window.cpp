@@ -1,18 +1,24 @@
 #include "qt/help_window.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
+#include <QProxyStyle>
 #include <QStringDecoder>
+#include <QStyleHintReturn>
 #include <QTextBlock>
 #include <QToolBar>
 #include <algorithm>
 
 #include "qt/convert.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {
+
+constexpr const char* howToRead =
+    ". The arrow keys go through the text, Tab to its links, Escape closes it";
 
 /// Why the file cannot be shown, in one sentence; empty if it can.
 QString faultOf(const QString& path) {
@@ -32,6 +38,24 @@ QString faultOf(const QString& path) {
   return {};
 }
 
+/// Marks the link that the keys have come to as selected text is marked: the toolkit's own box
+/// around it has a dotted line of one pixel.
+class LinkStyle final : public QProxyStyle {
+ public:
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* result) const override {
+    auto* mark = qstyleoption_cast<QStyleHintReturnVariant*>(result);
+    if (hint != SH_TextControl_FocusIndicatorTextCharFormat || mark == nullptr) {
+      return QProxyStyle::styleHint(hint, option, widget, result);
+    }
+    QTextCharFormat format;
+    format.setBackground(QApplication::palette().highlight());
+    format.setForeground(QApplication::palette().highlightedText());
+    mark->variant = format;
+    return 1;
+  }
+};
+
 /// Where the text has the anchor of this name; 0 if it has none.
 int positionOf(const QString& anchor, const QTextDocument& text) {
   for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
@@ -49,20 +73,33 @@ HelpText::HelpText(QWidget* parent, Announcer& announcer)
     : QTextBrowser(parent), announcer_(announcer) {
   setOpenExternalLinks(false);
   setAccessibleName("Help");
+  auto* style = new LinkStyle;
+  style->setParent(this);
+  setStyle(style);
 }
 
 void HelpText::keyPressEvent(QKeyEvent* event) {
   // From the first key on there is a caret, which screen readers follow; the mouse needs none.
   setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard);
   const QUrl before = source();
+  const int depth = backwardHistoryCount();
   QTextBrowser::keyPressEvent(event);
-  if (source() != before) moveCaretTo(source().fragment());
+  if (source() == before) return;
+  if (backwardHistoryCount() < depth) {
+    announceLink();  // the one that was followed: the toolkit goes back to it
+  } else {
+    moveCaretTo(source().fragment());
+  }
 }
 
 bool HelpText::focusNextPrevChild(bool next) {
   const bool moved = QTextBrowser::focusNextPrevChild(next);
-  if (moved && hasFocus()) announcer_.announce(textCursor().selectedText() + ", link");
+  if (moved && hasFocus()) announceLink();
   return moved;
+}
+
+void HelpText::announceLink() {
+  announcer_.announce(textCursor().selectedText() + ", link");
 }
 
 void HelpText::moveCaretTo(const QString& anchor) {
@@ -87,7 +124,6 @@ HelpWindow::HelpWindow() : text_(new HelpText(this, announcer_)) {
   for (QAction* action : {contents, back}) {
     bar->widgetForAction(action)->setFocusPolicy(Qt::TabFocus);
   }
-  text_->setFocus();
 }
 
 bool HelpWindow::showContents(const QString& path) {
@@ -101,6 +137,11 @@ bool HelpWindow::showContents(const QString& path) {
     text_->setPlainText(fault);
   }
   text_->clearHistory();
+  text_->setFocus();  // which may have been left on a button
+  letKeyBeTakenIn();
+  // It waits until the window has come up.
+  announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead
+                                      : fault);
   showNormal();
   raise();
   activateWindow();
@@ -108,7 +149,9 @@ bool HelpWindow::showContents(const QString& path) {
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Escape) close();
+  if (event->key() != Qt::Key_Escape) return;
+  letKeyBeTakenIn();
+  close();
 }
 
 bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,

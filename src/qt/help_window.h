@@ -25,6 +25,7 @@ class HelpText final : public QTextBrowser {
  private:
   /// Moves the caret to where a link has led, and has it read out.
   void moveCaretTo(const QString& anchor);
+  void announceLink();
 
   Announcer& announcer_;
 };

@@ -1,12 +1,11 @@
 #include "qt/qt_desktop.h"
 
-#include <QAbstractButton>
 #include <QFontMetrics>
 #include <QGridLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QSettings>
+#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -15,13 +14,16 @@
 
 #include "qt/convert.h"
 #include "qt/form_dialog.h"
+#include "qt/form_view.h"
 #include "qt/form_window.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {
 
 /// Device-independent pixels. The toolkit's own title bars centre the title in a box, and keep room
 /// for three buttons at the right.
+constexpr int pauseAfterKeys = 500;  // milliseconds
 constexpr int roomForTitle = 206;
 
 /// What keeps the toolkit from opening windows, by what it says of it, in the order of what
@@ -62,21 +64,12 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QSt
   endFor(found == obstacles.end() ? qPrintable(reasons) : found->second);
 }
 
-/// Keeps the repeats of a key that has brought a box up, and is still held down, from answering it.
-class IgnoredRepeats final : public QObject {
- public:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    return event->type() == QEvent::KeyPress && dynamic_cast<QKeyEvent*>(event)->isAutoRepeat();
-  }
-};
-
 }  // namespace
 
-std::unique_ptr<QApplication> QtDesktop::makeApplication(Arguments& arguments,
-                                                         const Program& program) {
-  QCoreApplication::setApplicationName(toQString(program.name));
+std::unique_ptr<QApplication> QtDesktop::makeApplication() {
+  QCoreApplication::setApplicationName(toQString(program_.name));
   const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
-  auto application = std::make_unique<QApplication>(arguments.count, arguments.values.data());
+  auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
   if (!QFontMetrics(QApplication::font()).inFont('0')) {
     endFor(
         "cannot show any text, because no font is installed; install the package "
@@ -89,10 +82,11 @@ std::unique_ptr<QApplication> QtDesktop::makeApplication(Arguments& arguments,
 
 QtDesktop::QtDesktop(char* programPath, Program program)
     : program_(std::move(program)),
-      arguments_{1, {programPath, nullptr}},
-      application_(makeApplication(arguments_, program_)),
-      printer_(toQString(program_.documentName),
-               [this](std::string_view text) { messageBox(text, Buttons::ok); }),
+      arguments_{programPath, nullptr},
+      application_(makeApplication()),
+      printer_(
+          toQString(program_.documentName),
+          [this](std::string_view text, Buttons buttons) { return messageBox(text, buttons); }),
       helpViewer_(
           {QApplication::applicationDirPath(),
            QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
@@ -100,6 +94,7 @@ QtDesktop::QtDesktop(char* programPath, Program program)
   // The toolkit's file dialog would keep a file of settings in the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
+  application_->installEventFilter(&keyGuard_);
 }
 
 QtDesktop::~QtDesktop() = default;
@@ -123,32 +118,40 @@ platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Butto
   box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
   // A sentence that waits is read out with the text: by itself it would come after the box, and cut
   // it short.
+  QString words = box.text();
   const QList<QLabel*> labels = box.findChildren<QLabel*>();
-  const auto label = std::ranges::find(labels, box.text(), &QLabel::text);
+  const auto label = std::ranges::find(labels, words, &QLabel::text);
   if (main_ && label != labels.end()) {
     const QString sentence = main_->announcer().takeSentence();
-    if (!sentence.isEmpty()) (*label)->setAccessibleName(sentence + ". " + box.text());
+    if (!sentence.isEmpty()) words.prepend(sentence + ". ");
+    (*label)->setAccessibleName(words);
   }
-  IgnoredRepeats ignoredRepeats;
-  for (QAbstractButton* button : box.buttons()) button->installEventFilter(&ignoredRepeats);
+  // A key that is kept away from the box cuts short what is said of it all the same.
+  Announcer announcer(box);
+  QTimer pause;
+  pause.setSingleShot(true);
+  pause.setInterval(pauseAfterKeys);
+  QObject::connect(&pause, &QTimer::timeout, [&] { announcer.announce(words); });
+  keyGuard_.keptFromBox = [&] { pause.start(); };
+  letKeyBeTakenIn();
   const int answer = box.exec();
+  keyGuard_.keptFromBox = nullptr;
   if (buttons == Buttons::ok) return Answer::ok;
   return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
 }
 
 void QtDesktop::announce(std::string_view sentence) {
-  if (main_) {
-    main_->announcer().announce(toQString(sentence));
-  } else {
-    greeting_ = toQString(sentence);
-  }
+  if (main_) main_->announcer().announce(toQString(sentence));
 }
 
 void QtDesktop::yield() {
+  if (main_) main_->view().setYielding(true);
   QApplication::processEvents();
+  if (main_) main_->view().setYielding(false);
 }
 
 void QtDesktop::showModal(platform::Form& form) {
+  letKeyBeTakenIn();
   FormDialog(form, main_.get()).run();
 }
 
@@ -157,10 +160,10 @@ void QtDesktop::endProgram() {
   std::_Exit(EXIT_SUCCESS);
 }
 
-FormWindow& QtDesktop::show(platform::Form& form) {
+FormWindow& QtDesktop::show(platform::Form& form, std::string_view greeting) {
   main_ = std::make_unique<FormWindow>(form);
   printer_.setParentWindow(main_.get());
-  main_->announcer().announce(std::exchange(greeting_, {}));
+  announce(greeting);
   main_->show();
   return *main_;
 }
@@ -170,8 +173,8 @@ void QtDesktop::close() {
   main_.reset();
 }
 
-int QtDesktop::run(platform::Form& form) {
-  show(form);
+int QtDesktop::run(platform::Form& form, std::string_view greeting) {
+  show(form, greeting);
   const int status = QApplication::exec();
   close();
   return status;

@@ -10,6 +10,7 @@
 #include "platform/desktop.h"
 #include "platform/form.h"
 #include "qt/help_window.h"
+#include "qt/key_guard.h"
 #include "qt/qt_printer.h"
 
 namespace qt {
@@ -41,30 +42,25 @@ class QtDesktop final : public platform::Desktop {
   [[noreturn]] void endProgram() override;
 
   /// Shows the form as the program's main window, until it is closed, which has to be before the
-  /// form's end.
-  FormWindow& show(platform::Form& form);
+  /// form's end. A screen reader speaks the greeting once the window has come up.
+  FormWindow& show(platform::Form& form, std::string_view greeting);
   void close();
   /// Shows the form and handles its events until the program ends; the program's exit status.
-  int run(platform::Form& form);
+  int run(platform::Form& form, std::string_view greeting);
 
  protected:
   Answer showMessageBox(std::string_view text, Buttons buttons) override;
 
  private:
-  /// The toolkit's own arguments: the program's path alone, since it takes no others.
-  struct Arguments {
-    int count = 1;
-    std::array<char*, 2> values = {};
-  };
-
-  static std::unique_ptr<QApplication> makeApplication(Arguments& arguments,
-                                                       const Program& program);
+  std::unique_ptr<QApplication> makeApplication();
 
   Program program_;
-  Arguments arguments_;
+  // The toolkit's own: the program's path alone, since it takes no others.
+  int argumentCount_ = 1;
+  std::array<char*, 2> arguments_;
   std::unique_ptr<QApplication> application_;
+  KeyGuard keyGuard_;
   std::unique_ptr<FormWindow> main_;
-  QString greeting_;  ///< announced before there was a window
   QtPrinter printer_;
   QtHelpViewer helpViewer_;
   platform::Clock clock_;

@@ -14,6 +14,7 @@
 #include <QTemporaryFile>
 #include <QTimer>
 #include <algorithm>
+#include <optional>
 
 #include "qt/convert.h"
 
@@ -33,10 +34,13 @@ constexpr double characterWidth = 0.6;
 /// whole numbers only.
 constexpr int drawnSize = 100;
 
-/// How long the print system may take to accept a job, and how long of that nobody notices, in
+/// How long the print system may take to answer, and how long of that nobody notices, in
 /// milliseconds.
 constexpr int patience = 10000;
 constexpr int unnoticed = 200;
+
+constexpr std::string_view notSent =
+    "The page could not be sent to the printer; it can be printed again.";
 
 QPageSize usualPaper() {
   const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
@@ -50,15 +54,23 @@ QPrinterInfo printerToUse() {
   return all.isEmpty() ? usual : all.first();
 }
 
-/// Waits until the job has ended, the user cancels or the time is up. A modal box over the window
+/// What a command of the print system says on standard output: no text where it fails, nothing
+/// where it has not ended when the user cancels or the time is up. A modal box over the window
 /// keeps another page from being printed meanwhile, but the window goes on to be drawn.
-void waitFor(QProcess& job, QWidget* window) {
-  if (job.waitForFinished(unnoticed) || job.state() == QProcess::NotRunning) return;
-  QProgressDialog box("Sending the page to the printer ...", "Cancel", 0, 0, window);
-  box.setWindowModality(Qt::WindowModal);
-  QObject::connect(&job, &QProcess::finished, &box, &QDialog::accept);
-  QTimer::singleShot(patience - unnoticed, &box, &QDialog::reject);
-  box.exec();
+std::optional<QString> ask(const QString& command, const QStringList& arguments, QWidget* window) {
+  QProcess process;
+  process.start(command, arguments);
+  if (!process.waitForFinished(unnoticed) && process.state() != QProcess::NotRunning) {
+    QProgressDialog box("Sending the page to the printer ...", "Cancel", 0, 0, window);
+    box.setWindowModality(Qt::WindowModal);
+    QObject::connect(&process, &QProcess::finished, &box, &QDialog::accept);
+    QTimer::singleShot(patience - unnoticed, &box, &QDialog::reject);
+    box.exec();
+  }
+  if (process.state() == QProcess::NotRunning) return process.readAllStandardOutput();
+  process.kill();
+  process.waitForFinished();
+  return std::nullopt;
 }
 
 }  // namespace
@@ -73,7 +85,6 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   QPdfWriter writer(&buffer);
   writer.setTitle(documentName_);
   writer.setPageSize(paper);
-  writer.setPageOrientation(QPageLayout::Portrait);
   writer.setPageMargins({});
   QPainter painter(&writer);
   painter.scale(writer.logicalDpiX() / pointsPerInch, writer.logicalDpiY() / pointsPerInch);
@@ -108,55 +119,60 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
 }
 
 void QtPrinter::endDocument() {
+  const Failure failure = printOrSave();
+  lines_.clear();
+  if (!failure.empty()) messageBox_(failure, Buttons::ok);
+}
+
+QtPrinter::Failure QtPrinter::printOrSave() const {
+  // The toolkit's look-up blocks the window until the print system answers, be that never. A
+  // command that asks it first can be waited for, and given up.
+  if (!ask("lpstat", {"-d"}, window_)) return notSent;
   const QPrinterInfo printer = printerToUse();
   const QPageSize paper = printer.defaultPageSize();
   const QByteArray pdf = sheet(paper.isValid() ? paper : usualPaper());
-  lines_.clear();
-  if (printer.isNull()) {
-    saveAsPdf(pdf);
-  } else {
-    sendToPrinter(printer.printerName(), pdf);
-  }
+  return printer.isNull() ? saveAsPdf(pdf) : sendToPrinter(printer.printerName(), pdf);
 }
 
-void QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) {
+QtPrinter::Failure QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) const {
   QTemporaryFile file(QDir::tempPath() + "/XXXXXX.pdf");
+  if (!file.open() || file.write(pdf) != pdf.size() || !file.flush()) return notSent;
   // The print system's own command is used because the toolkit's printing does not tell whether
-  // the job has been accepted.
-  QProcess job;
-  if (file.open() && file.write(pdf) == pdf.size() && file.flush()) {
-    job.start("lp", {"-d", printer, "-t", documentName_, file.fileName()});
-    waitFor(job, window_);
-    if (job.state() != QProcess::NotRunning) {
-      job.kill();
-      job.waitForFinished();
-      report_(
-          "It is not known whether the printer has got the page: look for it there before you "
-          "print it again.");
-      return;
-    }
-    if (job.error() != QProcess::FailedToStart && job.exitStatus() == QProcess::NormalExit &&
-        job.exitCode() == 0) {
-      return;
-    }
+  // the job has been accepted: then the command says what it is called.
+  const std::optional<QString> job =
+      ask("lp", {"-d", printer, "-t", documentName_, file.fileName()}, window_);
+  if (!job) {
+    return "It is not known whether the printer has got the page: look for it there before you "
+           "print it again.";
   }
-  report_("The page could not be sent to the printer; it can be printed again.");
+  return job->isEmpty() ? notSent : "";
 }
 
-void QtPrinter::saveAsPdf(const QByteArray& pdf) {
-  QFileDialog dialog(window_, "No printer was found: save the page as PDF",
-                     QDir::home().filePath(documentName_ + ".pdf"), "PDF (*.pdf)");
+QtPrinter::Failure QtPrinter::saveAsPdf(const QByteArray& pdf) const {
+  messageBox_("No printer was found; the page can be saved as PDF.", Buttons::ok);
+  QFileDialog dialog(window_, "Save the page as PDF", {}, "PDF (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
   dialog.setWindowModality(Qt::WindowModal);
-  if (dialog.exec() != QDialog::Accepted) return;
-  QSaveFile file(dialog.selectedFiles().first());
+  // Asked here instead: desktops bring dialogs of their own, and not each puts the suffix behind
+  // the name before it asks.
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  // A home that is not known counts as the root, which is no place for files.
+  QFileInfo target(QDir::home().isRoot() ? QDir::temp() : QDir::home(), documentName_ + ".pdf");
+  do {
+    dialog.selectFile(target.filePath());
+    if (dialog.exec() != QDialog::Accepted) return {};
+    target.setFile(dialog.selectedFiles().first());
+  } while (target.exists() &&
+           messageBox_((target.fileName() + " is already there: replace it?").toStdString(),
+                       Buttons::yesNo) != Answer::yes);
+  QSaveFile file(target.filePath());
   // Flushed first, because committing does not notice that a disk is full.
   if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() &&
       file.commit()) {
-    return;
+    return {};
   }
-  report_("The page could not be saved there; it can be printed again.");
+  return "The page could not be saved there; it can be printed again.";
 }
 
 }  // namespace qt

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "platform/control.h"
+#include "platform/desktop.h"
 #include "platform/printer.h"
 
 namespace qt {
@@ -20,13 +21,14 @@ namespace qt {
 /// The sheet is made as a PDF in memory first, so that it is handed over whole or not at all.
 class QtPrinter final : public platform::Printer {
  public:
-  using Report = std::function<void(std::string_view)>;
+  using Buttons = platform::Desktop::Buttons;
+  using Answer = platform::Desktop::Answer;
+  using MessageBox = std::function<Answer(std::string_view, Buttons)>;
 
   /// `documentName` is what the printer's queue shows, and the name that a file is offered;
-  /// `report` tells the user, in one sentence, that the page was not printed or saved, or may not
-  /// have been.
-  QtPrinter(QString documentName, Report report)
-      : documentName_(std::move(documentName)), report_(std::move(report)) {}
+  /// `messageBox` tells or asks the user something, in one sentence.
+  QtPrinter(QString documentName, MessageBox messageBox)
+      : documentName_(std::move(documentName)), messageBox_(std::move(messageBox)) {}
 
   /// The window over which the user is asked for a file name, and which takes no input while a page
   /// is on its way to the printer.
@@ -43,11 +45,15 @@ class QtPrinter final : public platform::Printer {
   QByteArray sheet(const QPageSize& paper) const;
 
  private:
-  void sendToPrinter(const QString& printer, const QByteArray& pdf);
-  void saveAsPdf(const QByteArray& pdf);
+  /// What went wrong, in one sentence; empty where nothing did.
+  using Failure = std::string_view;
+
+  Failure printOrSave() const;
+  Failure sendToPrinter(const QString& printer, const QByteArray& pdf) const;
+  Failure saveAsPdf(const QByteArray& pdf) const;
 
   QString documentName_;
-  Report report_;
+  MessageBox messageBox_;
   QWidget* window_ = nullptr;
   platform::Font font_{.bold = false};
   QStringList lines_;

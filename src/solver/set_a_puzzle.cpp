@@ -40,6 +40,7 @@ void SetAPuzzle::enter() {
 
 void SetAPuzzle::leave() {
   state_.SolveMode = false;
+  // The capital S is meant: it tells a player that the mode has been on before.
   controls_.SolveMx.caption = "Set a Puzzle for computer to Solve";
   controls_.CompMess.Visible = false;
   state_.BoardLocked = true;

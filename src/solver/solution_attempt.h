@@ -22,6 +22,9 @@ namespace tessoro {
 class SolutionAttempt {
  public:
   SolutionAttempt(PuzzleState& state, Digits& digits);
+  // Its views of texts are of its own.
+  SolutionAttempt(const SolutionAttempt&) = delete;
+  SolutionAttempt& operator=(const SolutionAttempt&) = delete;
 
   /// Makes the attempt; whether it has given a solution. If not, `SolNumbers` and `SolOperators`
   /// are left half made.

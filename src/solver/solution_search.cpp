@@ -23,7 +23,7 @@ void SolutionSearch::FindSolution() {
   const std::int16_t numberBefore = state_.PuzzleNo;
   state_.PuzzleNo = nextPuzzleNo(numberBefore);
   SolveFound_ = true;
-  Form1_.caption = "Puzzle Number " + signedNumberText(state_.PuzzleNo);
+  form_.caption = "Puzzle Number " + signedNumberText(state_.PuzzleNo);
   board_.setSmileysVisible(false);
 
   for (int SearchTries = 1;; ++SearchTries) {

@@ -14,12 +14,12 @@ namespace tessoro {
 class SolutionSearch {
  public:
   SolutionSearch(PuzzleState& state, Board& board, Digits& digits, PrintPage& page,
-                 platform::Desktop& desktop, platform::Form& Form1, Cell& Solveit)
+                 platform::Desktop& desktop, platform::Form& form, Cell& Solveit)
       : state_(state),
         board_(board),
         page_(page),
         desktop_(desktop),
-        Form1_(Form1),
+        form_(form),
         Solveit_(Solveit),
         attempt_(state, digits) {}
 
@@ -44,7 +44,7 @@ class SolutionSearch {
   Board& board_;
   PrintPage& page_;
   platform::Desktop& desktop_;
-  platform::Form& Form1_;
+  platform::Form& form_;
   Cell& Solveit_;
   SolutionAttempt attempt_;
   bool SolveFound_ = false;

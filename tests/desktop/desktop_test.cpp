@@ -63,6 +63,18 @@ TEST_F(DesktopTest, PressesMoveAndExitEndsTheProgram) {
   ASSERT_TRUE(eventually([&] { return pictureOf(3) != empty; }));
   EXPECT_EQ(colourOf(49), qRgb(0, 0, 0));
   EXPECT_EQ(picture().pixel(rectOf(smileyPlace(1)).center()), qRgb(255, 255, 0));
+  EXPECT_EQ(xdotool("search --class ^Tessoro$"), window) << "by which desktops know whose it is";
+  EXPECT_EQ(xdotool("search --classname ^tessoro$"), window);
+
+  const auto digitOf = [&](int cell) { return pictureOf(cell).copy(8, 8, 14, 14); };
+  const QImage one = digitOf(3);
+  press(rectOf(placeOf(3)).center());
+  ASSERT_TRUE(eventually([&] { return digitOf(3) != one; }));
+  press(rectOf(placeOf(5)).center());
+  xdotool("windowfocus --sync " + window);
+  ASSERT_TRUE(eventually([&] { return digitOf(5) == one; }));
+  xdotool("keydown space sleep 1.2 keyup space");  // the server repeats it from 0.66 s on
+  EXPECT_TRUE(eventually([&] { return digitOf(5) == digitOf(3); })) << "a key is one press";
   press({20, 10});
   EXPECT_TRUE(eventually([&] {
     xdotool("key Up Return");  // chooses the last command as soon as the menu is open

@@ -3,127 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/game.h"
-#include "board/captions.h"
-#include "rules/eval_line.h"
+#include "game/invariants.h"
 
 namespace tessoro::test {
-
-/// What must hold of the game after every event, whatever the player does. It watches one game.
-class Invariants {
- public:
-  explicit Invariants(const Game& game) : game_(game), before_(look(game)) {}
-
-  /// The rule that is broken since the last call; empty if none is. `pressed` is the cell on which
-  /// the one event since then was a press, 0 after other events.
-  std::string broken(int pressed) {
-    const bool inPlay = before_.find("End computer solution mode") == std::string::npos;
-    std::string rule = pressed != 0 && inPlay ? brokenByPress(pressed) : "";
-    if (game_.search.SolveFound() && rule.empty()) rule = brokenInSolution();
-    before_ = look(game_);
-    return before_.find('!') == std::string::npos ? rule : "cells look as they may";
-  }
-
-  /// What the player sees and can do: the title, the label, the button (in parentheses while
-  /// disabled); the command of set-a-puzzle mode, what stands outside each corner, the disabled
-  /// commands, whether the puzzle is over, the targets if any are set; then the grid, each cell as
-  /// the mark of its look and its caption, '.' for none.
-  static std::string look(const Game& game) {
-    const Form1& form = game.form;
-    std::string all = form.caption();
-    if (form.RightMess.Visible()) all += "; " + form.RightMess.caption();
-    if (form.CompMess.Visible()) all += "; " + form.CompMess.caption();
-    for (const auto* it : {&form.NewPuz, &form.Solveit}) {
-      if (it->Visible()) all += it->enabled() ? "; " + it->caption() : "; (" + it->caption() + ")";
-    }
-    all += "\n" + form.SolveMx.caption() + ":";
-    std::string targets;
-    for (int k = 1; k <= 4; ++k) {
-      const Cell& outer = form.board.GridDisp[OuterCornerCells[k]];
-      all += outer.Visible() ? std::string(" ") + mark(outer) + outer.caption() : " ";
-      all += (form.board.NPict[k].Visible() ? ":)" : "");
-      targets += " " + std::to_string(game.state.*cornerTargets[k]);
-    }
-    for (const auto* it : form.Gamex.items) all += it->enabled() ? "" : "; no " + it->caption();
-    if (game.state.BoardLocked) all += "; over";
-    if (targets != " -1 -1 -1 -1") all += "; targets" + targets;
-    for (int index = 1; index <= gridCells; ++index) {
-      const Cell& cell = form.board.GridDisp[index];
-      if (columnOf(index) == 1) all += '\n';
-      all += mark(cell) + (cell.caption().empty() ? "." : cell.caption());
-    }
-    return all;
-  }
-
- private:
-  const Game& game_;
-  std::string before_;
-
-  /// Plain, a hole, or green, red or black with white text; the second mark is an enabled cell's.
-  static char mark(const Cell& cell) {
-    static const std::map<std::pair<unsigned, unsigned>, std::string_view> marks{
-        {{0x80000001, 0x80000000}, " _"},
-        {{0, 0x80000000}, "#%"},
-        {{0x008000, 0xffffff}, "gG"},
-        {{0x000080, 0xffffff}, "rR"},
-        {{0, 0xffffff}, "bB"}};
-    const auto found = marks.find({cell.backcolor().value, cell.forecolor().value});
-    return found == marks.end() || !cell.Visible() ? '!' : found->second[cell.enabled() ? 1 : 0];
-  }
-  const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
-  const std::string& caption(int index) const { return cell(index).caption(); }
-
-  /// The result of the line that has the texts `at` 0 to 4.
-  static std::string resultOf(const auto& at) {
-    const int value =
-        EvalLine(readNumber(at(0)), readNumber(at(2)), readNumber(at(4)), at(1), at(3));
-    return value >= 1 && value <= 9 ? std::to_string(value) : "?";
-  }
-
-  std::string brokenInSolution() const {
-    const PuzzleState& state = game_.state;
-    for (int k = 1; k <= 4; ++k) {
-      const int target = state.*cornerTargets[k];
-      const auto holds = [&](int first, int step, int op) {
-        const auto at = [&](int place) {
-          return place % 2 == 0 ? state.SolNumbers[first + place / 2 * step]
-                                : state.SolOperators[op + place / 2];
-        };
-        return at(6) == " " + resultOf(at);
-      };
-      if (!holds(4 * k - 3, 1, 2 * k - 1) || !holds(k, 4, 2 * k + 7) ||
-          (target > 0 && caption(CornerCells[k]) != std::to_string(target))) {
-        return "every solution is true and has the corners asked for";
-      }
-    }
-    return {};
-  }
-
-  std::string brokenByPress(int pressed) const {
-    if (before_.find("; over") != std::string::npos || !cell(pressed).enabled()) {
-      return look(game_) == before_ ? "" : "a press changes only what takes it";
-    }
-    const auto result = [&](int first, int step) {
-      return resultOf([&](int place) { return caption(first + place * step); });
-    };
-    std::string shown;
-    std::string values;
-    for (const int line : {1, 3, 5}) {
-      shown += caption(7 * line) + caption(42 + line);
-      values += result(7 * line - 6, 1) + result(line, 7);
-    }
-    const bool inColumn7 = pressed == 14 || pressed == 28;
-    const bool unknown = pressed < 43 && shown.find('?') != std::string::npos;
-    shown += caption(49);
-    values += inColumn7 ? result(7, 7) : unknown ? "?" : result(43, 1);
-    return shown == values ? "" : "lines show " + values + ", cell 49 that of the operator pressed";
-  }
-};
 
 struct ProgramEnded {};
 using Log = std::vector<std::string>;

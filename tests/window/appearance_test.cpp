@@ -1,71 +1,24 @@
 #include <set>
 
-#include "window_fixture.h"
+#include "app/about_form.h"
+#include "picture.h"
 
 namespace tessoro::test {
 
 /// These run again at each scale factor, as set by the environment.
-struct AppearanceTest : WindowTest {
-  /// The client area in pixels of the screen.
-  QImage picture() const {
-    QImage image = view.grab().toImage();
+using AppearanceTest = PictureTest;
+
+TEST_F(AppearanceTest, TheScreenShowsWhatTheControlsSay) {
+  EXPECT_EQ(fault(false), "");
+  onModal = [&](QWidget* box) {
+    QImage image = box->grab().toImage();
     image.setDevicePixelRatio(1);
-    return image;
-  }
-};
-
-TEST_F(AppearanceTest, EveryCellHasItsPlaceItsColourAndAWholeBorder) {
-  const double scale = view.devicePixelRatioF();
-  const int line = static_cast<int>(scale);
-  const QMargins border(line, line, line, line);
-  const QImage image = picture();
-  QImage expected = image;
-  QPainter painter(&expected);
-  const auto outline = [&](const QRect& rect, const QBrush& colour) {
-    for (const QRect& edge : QRegion(rect) - (rect - border)) painter.fillRect(edge, colour);
+    QImage expected = image;
+    draw(expected, AboutForm(), false);
+    EXPECT_EQ(difference(image, expected), "");
+    box->close();
   };
-  const QRect frame(QPoint(4, 4) * scale, QPoint(297, 305) * scale - QPoint(1, 1));
-  outline(frame.adjusted(line, line, 0, 0), view.palette().light());
-  outline(frame.adjusted(0, 0, -line, -line), view.palette().dark());
-  for (int index = 1; index <= gridCells; ++index) {
-    const QPoint start = middleOf(cell(index)) - QPoint(15, 15);
-    const QRect all(start * scale, (start + QPoint(30, 30)) * scale - QPoint(1, 1));
-    const bool isCorner = rowOf(index) % 6 == 1 && columnOf(index) % 6 == 1;
-    painter.fillRect(all, view.palette().dark());
-    painter.fillRect(all.adjusted(0, 0, -line, -line), view.palette().light());
-    painter.fillRect(all - border, isCorner ? QColor(0, 128, 0) : view.palette().button());
-    painter.drawImage(all - 6 * border, image, all - 6 * border);
-    if (roleOf(index) == CellRole::hole) painter.fillRect(all - border, Qt::black);
-  }
-  painter.end();
-  EXPECT_TRUE(image == expected);
-  choose("Set a Puzzle for computer to solve");
-  EXPECT_EQ(view.grab().toImage().pixelColor(QPoint(49, 59) * scale), QColor(128, 0, 0));
-}
-
-TEST_F(AppearanceTest, TheKeysBringARingAndTheMouseTakesItAway) {
-  const double scale = view.devicePixelRatioF();
-  const int line = static_cast<int>(scale);
-  const QImage plain = picture();
-  QTest::keyClick(window.windowHandle(), Qt::Key_Down);
-  QImage ringed = plain;
-  QPainter painter(&ringed);
-  QRect rect(QPoint(46, 86) * scale, QPoint(76, 116) * scale - QPoint(1, 1));
-  for (const QColor colour : {Qt::black, Qt::yellow, Qt::yellow, Qt::black}) {
-    const QRect inside = rect - QMargins(line, line, line, line);
-    for (const QRect& edge : QRegion(rect) - inside) painter.fillRect(edge, colour);
-    rect = inside;
-  }
-  painter.end();
-  EXPECT_TRUE(picture() == ringed) << "over its neighbour below too, which lies in front";
-  for (const int silent : {1, 9}) {
-    settle();
-    const long drawn = view.drawnControls();
-    click(cell(silent));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return view.drawnControls() > drawn; })) << silent;
-    EXPECT_TRUE(picture() == plain) << silent;
-    QTest::keyClick(window.windowHandle(), Qt::Key_Space);  // any key brings it back
-  }
+  choose("About");
 }
 
 /// What colours have a contrast by: nearly the relative luminance, and 0.05.
@@ -95,7 +48,6 @@ TEST_F(AppearanceTest, TextAndBordersStandOutInEveryThemeAndWhileABoxIsOpen) {
   for (Cell& it : game.form.board.GridDisp) {
     if (it.Visible() && !it.caption().empty()) texts.push_back(&it);
   }
-  const double scale = view.devicePixelRatioF();
   // Themes' button face, highlight and shadow, and whether the shadow stays as it is.
   for (const auto& [face, highlight, shadow, stays] :
        std::vector<std::tuple<QRgb, QRgb, QRgb, bool>>{{0xefefef, 0xffffff, 0x9f9f9f, true},
@@ -107,7 +59,7 @@ TEST_F(AppearanceTest, TextAndBordersStandOutInEveryThemeAndWhileABoxIsOpen) {
     theme.setColor(QPalette::Dark, shadow);
     theme.setColor(QPalette::Inactive, QPalette::WindowText, face);
     window.setPalette(theme);
-    const QImage image = picture();
+    const QImage image = screen();
     for (const platform::Control* text : texts) {
       const QPointF middle = QPointF(middleOf(*text)) * scale;
       const QRect inside(middle.toPoint() - QPoint(9, 6), QSize(18, 12));

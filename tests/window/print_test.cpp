@@ -1,20 +1,23 @@
 #include "qt/qt_printer.h"
+
+#include <csignal>
+
 #include "window_fixture.h"
 
 namespace tessoro::test {
 
-/// The files of a print server of the test's own: its settings, its two queues, the default's
-/// driver, and a command that sends nothing while the server is busy.
+/// The files of a print server of the test's own: its settings, its queues, the default's driver,
+/// and a command that sends nothing while the server is busy.
 static const std::map<QString, QString> serverFiles{
     {"cupsd.conf",
      "Listen HERE/cups\nBrowsing Off\nDirtyCleanInterval 0\n"
      "<Policy default>\n<Limit All>\nAllow from all\n</Limit>\n</Policy>\n"},
-    {"files.conf",
+    {"cups-files.conf",
      "ServerRoot HERE\nRequestRoot HERE/spool\nCacheDir HERE/cache\nStateDir HERE/state\n"
      "TempDir HERE\nErrorLog stderr\nAccessLog HERE/access\nPageLog HERE/page\n"},
     {"printers.conf",
-     "<Printer A>\nDeviceURI file:///dev/null\nAccepting No\n</Printer>\n"
-     "<DefaultPrinter B>\nDeviceURI file:///dev/null\nAccepting Yes\n</DefaultPrinter>\n"},
+     "<Printer A>\nAccepting No\n</Printer>\n<DefaultPrinter B>\n</DefaultPrinter>\n"
+     "<Printer C>\n</Printer>\n"},
     {"ppd/B.ppd",
      "*PPD-Adobe: \"4.3\"\n*cupsFilter: \"application/pdf 0 -\"\n*OpenUI *PageSize: PickOne\n"
      "*DefaultPageSize: Legal\n*PageSize Legal: \"\"\n*CloseUI: *PageSize\n"
@@ -24,115 +27,130 @@ static const std::map<QString, QString> serverFiles{
 struct PrintTest : WindowTest {
   using OnWait = std::function<void(QProgressDialog&)>;
   const QDir folder = QFileInfo(qgetenv("CUPS_SERVER")).dir();
-  QProcess server;
+  const std::function<void(QWidget*)> answer = onModal;
 
-  /// What the program says on standard output, or that and why it failed.
+  PrintTest() { QDir::setCurrent(folder.path()); }
+  /// What the program says on standard output.
   static QString output(const QString& program, const QStringList& arguments,
                         const QByteArray& input = {}) {
     QProcess process;
     process.start(program, arguments);
     process.write(input);
     process.closeWriteChannel();
-    const bool done = process.waitForFinished() && process.exitCode() == 0;
-    return done ? process.readAllStandardOutput()
-                : program + " failed: " + process.errorString() + process.readAllStandardError();
+    process.waitForFinished();
+    return process.readAllStandardOutput();
   }
-  void startServer() {
-    const QString here = folder.path();
-    folder.mkdir("ppd");
-    for (auto [name, text] : serverFiles) {
-      QFile file(folder.filePath(name));
-      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-      file.write(text.replace("HERE", here).toUtf8());
-      file.setPermissions(QFile::Permissions(0x7700));
-    }
-    qputenv("PATH", here.toUtf8() + ":" + qgetenv("PATH"));
-    server.start("/usr/sbin/cupsd", {"-f", "-c", here + "/cupsd.conf", "-s", here + "/files.conf"});
-    const auto queues = [] { return output("lpstat", {"-a"}); };
-    ASSERT_TRUE(QTest::qWaitFor([&] { return queues().contains("B accepting"); }, 30000))
-        << queues().toStdString() << server.readAllStandardError().toStdString();
-  }
-  /// Has the page printed; where a file is asked for, names that, or cancels without a name. Does
-  /// what is to be done while the printer is waited for. Gives what the last box said.
-  std::string print(const QString& chosen = {}, const OnWait& onWait = [](auto&) {}) {
-    onModal = [this, chosen, onWait, answer = onModal](QWidget* modal) {
-      if (auto* wait = dynamic_cast<QProgressDialog*>(modal)) return onWait(*wait);
-      auto* dialog = dynamic_cast<QFileDialog*>(modal);
-      if (dialog == nullptr) return answer(modal);
-      const QString file = QFileInfo(dialog->selectedFiles().value(0)).fileName();
-      messages.push_back(dialog->windowTitle() + ' ' + file + ' ' + dialog->selectedNameFilter());
-      dialog->findChild<QLineEdit*>("fileNameEdit")->setText(chosen);
-      QMetaObject::invokeMethod(dialog, chosen.isEmpty() ? "reject" : "accept");
+  /// Has the page printed. Where a file is asked for, names one after the other, replacing none but
+  /// the last, or cancels. Gives what has been said after the question.
+  std::string print(QStringList files = {}, const OnWait& onWait = [](auto&) {}) {
+    messages.clear();
+    onModal = [&](QWidget* modal) {
+      EXPECT_TRUE(modal->parent() == &window && modal->windowModality() == Qt::WindowModal);
+      auto* box = dynamic_cast<QMessageBox*>(modal);
+      if (box) return box->text().endsWith('?') && !files.isEmpty() ? box->reject() : answer(box);
+      auto* wait = dynamic_cast<QProgressDialog*>(modal);
+      if (wait) return messages.push_back(wait->labelText()), onWait(*wait);
+      auto& dialog = dynamic_cast<QFileDialog&>(*modal);
+      EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+      EXPECT_EQ(dialog.directory(), QDir::home().isRoot() ? QDir::temp() : folder);
+      const QString file = QFileInfo(dialog.selectedFiles().value(0)).fileName();
+      messages.push_back(dialog.windowTitle() + ' ' + file + ' ' + dialog.selectedNameFilter());
+      if (files.isEmpty()) return dialog.reject();
+      dialog.findChild<QLineEdit*>("fileNameEdit")->setText(files.takeFirst());
+      QMetaObject::invokeMethod(&dialog, "accept");
     };
     choose("Print");
-    return messages.back().toStdString();
+    QStringList said(messages.begin(), messages.end());
+    said.removeDuplicates();
+    return said.mid(1).join('\n').toStdString();
   }
-  /// Compares the file with the page, line by line; blank lines do not survive the reading.
+  /// Compares the file with the page, but for its blanks.
   void expectThePage(const QString& file, const char* paper) const {
     QString page;
-    for (const auto& line : game.page.PrintLines) page += QString::fromStdString(line) + "\n";
-    QString printed = output("pdftotext", {"-layout", "-fixed", "7.2", folder.filePath(file), "-"});
-    const QRegularExpression blanks("\\s*\n\\s*");
-    EXPECT_EQ(printed.replace(blanks, "\n").trimmed().toStdString(),
-              page.replace(blanks, "\n").trimmed().toStdString());
-    const QString facts = output("pdfinfo", {folder.filePath(file)}).simplified();
-    EXPECT_TRUE(facts.contains("Title: Tessoro puzzles") && facts.contains("Pages: 1 "));
-    EXPECT_TRUE(facts.contains(paper)) << facts.toStdString();
-    EXPECT_TRUE(output("pdffonts", {folder.filePath(file)}).contains("LiberationMono "));
+    for (const auto& line : game.page.PrintLines) page += QString::fromStdString(line) + ' ';
+    const QString printed = output("pdftotext", {"-layout", file, "-"});
+    EXPECT_EQ(printed.simplified().toStdString(), page.simplified().toStdString());
+    const QString facts = (output("pdfinfo", {file}) + output("pdffonts", {file})).simplified();
+    const QString expected = "Title: Tessoro puzzles .*Pages: 1 .*%1.* LiberationMono ";
+    EXPECT_TRUE(facts.contains(QRegularExpression(expected.arg(paper)))) << facts.toStdString();
   }
 };
 
 TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
-  const std::string asked = "TESSORO: Print Puzzle No(s): 4, 2, 3";
   const std::string noPrinter =
-      "No printer was found: save the page as PDF Tessoro puzzles.pdf PDF (*.pdf)";
+      "TESSORO: No printer was found; the page can be saved as PDF.\n"
+      "Save the page as PDF Tessoro puzzles.pdf PDF (*.pdf)";
+  const std::string waiting = "Sending the page to the printer ...";
+  const std::string notSent =
+      "TESSORO: The page could not be sent to the printer; it can be printed again.";
   for (int puzzle = 2; puzzle <= 4; ++puzzle) game.search.FindSolution();
-  print(folder.filePath("saved"));
-  expectThePage("saved.pdf", " pts (");
   EXPECT_EQ(print(), noPrinter) << "cancelling is no failure";
-  EXPECT_EQ(print("/dev/full/page.pdf"),
-            "TESSORO: The page could not be saved there; it can be printed again.");
+  output("touch", {"saved.pdf", "busy"});
+  print({"saved", "other"});
+  EXPECT_EQ(QFileInfo("saved.pdf").size(), 0);
+  EXPECT_EQ(print({"saved"}), noPrinter + "\nTESSORO: saved.pdf is already there: replace it?");
+  expectThePage("saved.pdf", "pts .A4");
+  EXPECT_FALSE(folder.exists(".config")) << "no settings are kept";
 
   if (!QFile::exists("/usr/sbin/cupsd")) GTEST_SKIP() << "There is no print server to print on.";
-  startServer();
-  EXPECT_EQ(print(), asked);
+  folder.mkdir("ppd");
+  for (auto [name, text] : serverFiles) {
+    QFile file(name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text.replace("HERE", folder.path()).toUtf8());
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  }
+  qputenv("PATH", folder.path().toUtf8() + ":" + qgetenv("PATH"));
+  QProcess server;
+  server.start("/usr/sbin/cupsd", {"-f", "-c", "cupsd.conf"});
+  const auto isReady = [] { return output("lpstat", {"-a"}).contains("B accepting"); };
+  ASSERT_TRUE(QTest::qWaitFor(isReady, 30000)) << server.readAllStandardError().toStdString();
+  EXPECT_EQ(print({}, [](auto& wait) { wait.template findChild<QPushButton*>()->click(); }),
+            waiting +
+                "\nTESSORO: It is not known whether the printer has got the page: look for it "
+                "there before you print it again.");
+  const QDateTime start = QDateTime::currentDateTime();
+  EXPECT_EQ(print({}, [](auto&) { QFile::remove("busy"); }), waiting);
   expectThePage("spool/d00001-001", "612 x 1008 pts");
-  const QString busy = folder.filePath("busy");
-  output("touch", {busy});
-  const auto goOn = [&](auto& wait) { messages.push_back(wait.labelText()), QFile::remove(busy); };
-  EXPECT_EQ(print({}, goOn), "Sending the page to the printer ...");
-  output("/usr/sbin/cupsreject", {"B"});
-  EXPECT_EQ(print(),
-            "TESSORO: The page could not be sent to the printer; it can be printed again.");
-  output("touch", {busy});
-  EXPECT_EQ(
-      print({}, [](auto& wait) { wait.template findChild<QPushButton*>()->click(); }),
-      "TESSORO: It is not known whether the printer has got the page: look for it there before "
-      "you print it again.");
+  EXPECT_TRUE(output("cat", {"spool/c00001"}).contains("Tessoro puzzles"));
+  EXPECT_EQ(print(), "");
+  output("/usr/sbin/lpadmin", {"-x", "B"});
+  EXPECT_EQ(print(), notSent) << "A, which is no default, rejects it";
+  output("/usr/sbin/cupsaccept", {"A"});
+  std::signal(SIGXFSZ, SIG_IGN);
+  const QString self = QString::number(getpid());
+  output("prlimit", {"--fsize=1000:", "--pid", self});
+  EXPECT_EQ(print(), notSent) << "The disk is full";
+  kill(static_cast<pid_t>(server.processId()), SIGSTOP);
+  EXPECT_EQ(print(), waiting + '\n' + notSent);
+  EXPECT_EQ(start.secsTo(QDateTime::currentDateTime()) / 8, 1) << "all but 10 s are short";
   server.close();
-  EXPECT_EQ(print(), noPrinter);
+  qunsetenv("HOME");
+  EXPECT_EQ(print({folder.filePath("page")}),
+            noPrinter + "\nTESSORO: The page could not be saved there; it can be printed again.");
+  output("prlimit", {"--fsize=unlimited", "--pid", self});
 }
 
-/// 10 characters and 6 lines to the inch, whole on the paper, smaller only where it is too small.
+/// 10 characters and 6 lines to the inch, whole on the paper, smaller only where it is too small,
+/// in any typeface.
 TEST_F(PrintTest, TheSheetStandsWholeOnOnePage) {
   qt::QtPrinter printer("Tessoro puzzles", {});
-  printer.setFontName("Courier");
+  printer.setFontName("Arial");
   printer.setFontSize(12);
-  for (int line = 0; line < 59; ++line) printer.printLine(std::string(75, 'H'));
+  for (int line = 0; line < 59; ++line) printer.printLine(std::string(75, 'M'));
   for (const auto& [paper, scale] : std::map<QPageSize::PageSizeId, double>{
-           {QPageSize::A4, 1}, {QPageSize::Letter, 1}, {QPageSize::A6, 0.4833}}) {
+           {QPageSize::A4, 1}, {QPageSize::A6, 0.4833}, {QPageSize::Imperial8x10, 0.9661}}) {
     std::vector<double> edges;  // the left, top and right of each line
     const QString words = output("pdftotext", {"-bbox", "-", "-"}, printer.sheet(QPageSize(paper)));
     const QRegularExpression edge("(?:xMin|yMin|xMax)=\"([0-9.]+)\"");
     for (const auto& match : edge.globalMatch(words)) edges.push_back(match.captured(1).toDouble());
     ASSERT_EQ(edges.size(), 59U * 3);
-    const double last = edges[58 * 3 + 1];
-    EXPECT_NEAR(edges[2] - edges[0], 540 * scale, 1);
-    EXPECT_NEAR(last - edges[1], 58 * 12 * scale, 1);
-    EXPECT_NEAR(edges[0] + edges[2], QPageSize(paper).size(QPageSize::Point).width(), 1);
-    const QSizeF size = QPageSize(paper).size(QPageSize::Point) - QSizeF(17.9, 17.9);
-    EXPECT_TRUE(edges[0] > 17.9 && edges[1] > 17.9 && edges[2] < size.width() &&
-                last + 12 * scale < size.height());
+    const QSizeF size = QPageSize(paper).size(QPageSize::Point);
+    const QSizeF margin = (size - QSizeF(540, 708) * scale) / 2;
+    EXPECT_NEAR(edges[0], margin.width(), 1);
+    EXPECT_NEAR(edges[2], size.width() - margin.width(), 1);
+    EXPECT_NEAR(edges[1], margin.height(), 1);
+    EXPECT_NEAR(edges[58 * 3 + 1], size.height() - margin.height() - 12 * scale, 1);
   }
 }
 

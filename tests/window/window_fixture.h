@@ -2,13 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <qpa/qwindowsysteminterface.h>
+
 #include <QtTest>
 #include <QtWidgets>
 
 #include "app/game.h"
-#include "app/program.h"
+#include "program.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
+
+inline void PrintTo(const QString& text, std::ostream* out) {
+  *out << text.toStdString();
+}
 
 namespace tessoro::test {
 
@@ -19,7 +25,7 @@ inline qt::QtDesktop* theDesktop = nullptr;
 struct WindowTest : testing::Test {
   ReseededDigits digits{*theDesktop};
   Game game{*theDesktop, digits};
-  qt::FormWindow& window = (theDesktop->announce("Welcome"), theDesktop->show(game.form));
+  qt::FormWindow& window = theDesktop->show(game.form, "Welcome");
   qt::FormView& view = window.view();
   std::map<QString, QAction*> menu;  ///< its commands by the captions that they have at first
   std::vector<QString> messages;
@@ -27,7 +33,7 @@ struct WindowTest : testing::Test {
   std::function<void(QWidget*)> onModal = [this](QWidget* modal) {
     auto* box = dynamic_cast<QMessageBox*>(modal);
     messages.push_back(box->windowTitle() + ": " + box->text());
-    EXPECT_EQ(box->buttons().size(), box->text().startsWith("Print ") ? 2 : 1);
+    EXPECT_EQ(box->buttons().size(), 1 + box->text().contains(QRegularExpression("^Print|[?]$")));
     EXPECT_EQ(box->defaultButton(), box->buttons().first());
     const auto flags = Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
     EXPECT_EQ(box->windowFlags() & (Qt::WindowType_Mask | flags), Qt::Dialog | flags);
@@ -53,7 +59,7 @@ struct WindowTest : testing::Test {
 
   /// Has all events processed, also those that others bring about.
   static void settle() {
-    for (int round = 0; round < 3; ++round) theDesktop->yield();
+    for (int round = 0; round < 3; ++round) QApplication::processEvents();
   }
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
@@ -67,6 +73,22 @@ struct WindowTest : testing::Test {
   }
   void click(const platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(window.windowHandle(), button, {}, inWindow(control));
+  }
+  /// Presses and releases a key in the window with the focus, each at a time of its own.
+  void key(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) const {
+    static ulong time = 0;
+    settle();
+    const QWidget* active = QApplication::activeWindow();
+    QWindow* to = (active == nullptr ? &window : active)->windowHandle();
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QWindowSystemInterface::handleKeyEvent(to, ++time, type, key, modifiers, text);
+      settle();
+    }
+  }
+  void type(const QString& characters) const {
+    for (const QChar it : characters) {
+      key(it.toUpper().unicode(), it.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, it);
+    }
   }
   void choose(const QString& command) {
     menu.at(command)->trigger();

@@ -1,5 +1,5 @@
 #include "app/game.h"
-#include "app/program.h"
+#include "program.h"
 #include "qt/qt_desktop.h"
 #include "solver/digits.h"
 
@@ -8,6 +8,5 @@ int main(int /*argc*/, char* argv[]) {
   tessoro::ReseededDigits digits(desktop);
   tessoro::Game game(desktop, digits);
   game.startUp.Form_Load();
-  game.narrator.announceStart();
-  return desktop.run(game.form);
+  return desktop.run(game.form, game.narrator.firstPuzzle());
 }

@@ -1,0 +1,139 @@
+#pragma once
+
+#include <cmath>
+
+#include "window_fixture.h"
+
+namespace tessoro::test {
+
+/// The window by what is on its screen, and by what its controls say should be there.
+struct PictureTest : WindowTest {
+  double scale = view.devicePixelRatioF();
+
+  /// A rectangle of the client area in pixels of the screen.
+  QRect pixels(const QRect& it) const {
+    return {it.topLeft() * scale, (it.bottomRight() + QPoint(1, 1)) * scale - QPoint(1, 1)};
+  }
+  /// The client area as it has been painted, bit by bit, on the screen.
+  QImage screen() const {
+    QEvent now(QEvent::UpdateRequest);  // which the toolkit would send some milliseconds later
+    QApplication::sendEvent(&window, &now);
+    const auto& all = dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
+    const QPoint origin = view.mapTo(&window, QPoint()) * scale;
+    QImage image = all.copy({origin, QPoint(all.width(), all.height()) - QPoint(1, 1)});
+    image.setDevicePixelRatio(1);
+    return image;
+  }
+  /// Draws the client area of a form from nothing but its controls. What the toolkit draws stays as
+  /// it is, but for the edges of a text, which have nothing.
+  void draw(QImage& image, const platform::Form& form, bool ring) const {
+    QPainter painter(&image);
+    QRegion own(image.rect());
+    for (const auto& it : form.controls) {
+      if (auto* const* text = std::get_if<platform::TextBox*>(&it))
+        own -= pixels(rectOf((*text)->place)) - QMargins(9, 9, 9, 9);
+      if (auto* const* button = std::get_if<platform::CommandButton*>(&it))
+        own -= pixels(rectOf((*button)->place));
+    }
+    painter.setClipRegion(own);
+    painter.fillRect(image.rect(), colour(platform::buttonFace));
+    for (const auto& it : form.controls) drawAt({}, it, painter);
+    const int line = qRound(scale);
+    QRect rect = ring ? pixels(QApplication::focusWidget()->geometry()) : QRect();
+    for (const QColor it : {Qt::black, Qt::yellow, Qt::yellow, Qt::black}) {
+      if (ring) outline(painter, rect, line, it);
+      rect -= QMargins(line, line, line, line);
+    }
+  }
+  /// Where the pictures differ, in device-independent pixels; empty if they do not.
+  QString difference(const QImage& shown, const QImage& expected) const {
+    if (shown == expected) return "";
+    QRegion differing;
+    for (int i = 0; i < shown.width() * shown.height(); ++i) {
+      const QPoint at(i % shown.width(), i / shown.width());
+      if (shown.pixel(at) != expected.pixel(at)) differing += QRect(at / scale, QSize(1, 1));
+    }
+    return QDebug::toString(differing.boundingRect());
+  }
+  /// Where the screen is not what the controls say, with or without a ring around the focus.
+  QString fault(bool ring) const {
+    const QImage shown = screen();
+    QImage expected = shown;
+    draw(expected, game.form, ring);
+    return difference(shown, expected);
+  }
+
+ private:
+  static QRect rectOf(const platform::Place& it) {
+    return {QPoint(it.left, it.top) / 15, QSize(it.width, it.height) / 15};
+  }
+  QColor colour(platform::Colour it) const {
+    static const std::map<unsigned, QPalette::ColorRole> roles{{0x80000000, QPalette::WindowText},
+                                                               {0x80000001, QPalette::Button},
+                                                               {0x80000002, QPalette::Light},
+                                                               {0x80000003, QPalette::Dark}};
+    const auto role = roles.find(it.value);
+    const QColor plain(it.value & 255, it.value >> 8 & 255, it.value >> 16 & 255);
+    return role == roles.end() ? plain : view.palette().color(QPalette::Active, role->second);
+  }
+  static void outline(QPainter& painter, const QRect& rect, int width, const QColor& colour) {
+    const QRect inside = rect - QMargins(width, width, width, width);
+    for (const QRect& edge : QRegion(rect) - inside) painter.fillRect(edge, colour);
+  }
+  void write(QPainter& painter, const QRect& rect, const std::string& text, platform::Font font,
+             const QColor& ink) const {
+    QFont own(font.name == "Arial" ? "Liberation Sans" : QApplication::font().family());
+    own.setPointSizeF(font.points * scale * 96 / view.logicalDpiY());
+    own.setBold(font.bold);
+    painter.setFont(own);
+    painter.setPen(ink);
+    painter.drawText(rect, Qt::AlignCenter, QString::fromStdString(text));
+  }
+  void drawAt(QPoint start, const platform::ControlRef& control, QPainter& painter) const {
+    const int line = static_cast<int>(scale);
+    const auto drawOne = [&](const auto& it) {
+      if (!it.Visible()) return;
+      using Kind = std::remove_cvref_t<decltype(it)>;
+      const QRect place = rectOf(it.place).translated(start);
+      const QRect rect = pixels(place);
+      if constexpr (std::is_same_v<Kind, Cell>) {
+        painter.fillRect(rect, colour(it.borderbottom));
+        painter.fillRect(rect.adjusted(0, 0, -line, -line), colour(it.bordertop));
+        painter.fillRect(rect - QMargins(line, line, line, line), colour(it.backcolor()));
+        QColor ink = colour(it.forecolor());
+        if (it.isButton() && !it.enabled()) {  // two fifths of the way to the background
+          const QColor back = colour(it.backcolor());
+          ink = {(ink.red() * 3 + back.red() * 2) / 5, (ink.green() * 3 + back.green() * 2) / 5,
+                 (ink.blue() * 3 + back.blue() * 2) / 5};
+        }
+        write(painter, rect, it.caption(), {it.font, it.fontsize, it.fontbold}, ink);
+      } else if constexpr (std::is_same_v<Kind, platform::Label>) {
+        painter.fillRect(rect, colour(it.backcolor));
+        write(painter, rect, it.caption(), it.font, colour(it.forecolor));
+      } else if constexpr (std::is_same_v<Kind, platform::PictureBox>) {
+        painter.fillRect(rect, colour(platform::buttonFace));
+        QImage face(32, 32, QImage::Format_ARGB32);
+        for (int i = 0; i < 32 * 32; ++i) {
+          const char pixel = it.picture->rows[i / 32][i % 32];
+          face.setPixelColor(i % 32, i / 32,
+                             pixel == '.'
+                                 ? Qt::transparent
+                                 : colour(platform::palette[QString(pixel).toUInt(nullptr, 16)]));
+        }
+        const int larger = 32 * static_cast<int>(std::ceil(scale));
+        QRect middle(QPoint(), QSize(32, 32) * scale);
+        middle.moveCenter(rect.center());
+        painter.drawImage(
+            middle, face.scaled(larger, larger)
+                        .scaled(middle.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+      } else if constexpr (std::is_same_v<Kind, platform::Frame>) {
+        outline(painter, rect.adjusted(line, line, 0, 0), line, colour(platform::highlight3D));
+        outline(painter, rect.adjusted(0, 0, -line, -line), line, colour(platform::shadow3D));
+        for (const auto& inner : it.controls) drawAt(place.topLeft(), inner, painter);
+      }
+    };
+    std::visit([&](const auto* it) { drawOne(*it); }, control);
+  }
+};
+
+}  // namespace tessoro::test
