@@ -18,6 +18,10 @@ TEST_F(AccessibilityTest, WhatIsBesideTheGridReadsAsWhatItIs) {
                   .arg(qAccessibleRoleString(it->role()), it->text(QAccessible::Name),
                        it->actionInterface()->actionNames().join("/")),
               reading);
+    it->actionInterface()->doAction("SetFocus");
+    key(control == &game.form.NewPuz ? Qt::Key_Backspace : Qt::Key_Space);  // which do nothing
+    type("c");
+    EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
   }
 }
 

@@ -9,10 +9,11 @@ namespace tessoro::test {
 /// Somebody who uses the mouse, the keys and the actions of a screen reader at random.
 struct WindowPlayerTest : ListeningTest {
   std::mt19937 random;
-  QString done;       ///< the last event, in words
-  int pressed = 0;    ///< the cell of the grid that it may have pressed
-  int ledTo = 0;      ///< the cell to which its key leads
-  int gridFocus = 1;  ///< the cell that had the focus last
+  QString done;         ///< the last event, in words
+  int pressed = 0;      ///< the cell of the grid that it may have pressed
+  int focusedCell = 0;  ///< the cell of the grid that had the focus before it
+  int ledTo = 0;        ///< the cell to which its key leads
+  int gridFocus = 1;    ///< the cell that had the focus last
   bool ring = false;
 
   int below(qsizetype end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
@@ -29,7 +30,7 @@ struct WindowPlayerTest : ListeningTest {
   void actAtRandom() {
     const QWidget* focused = QApplication::focusWidget();
     const bool takesFocus = focused->focusPolicy() != Qt::NoFocus;
-    const int focusedCell = pressed = cellAt(focused->geometry().center());
+    pressed = focusedCell = cellAt(focused->geometry().center());
     if (focusedCell != 0) gridFocus = focusedCell;
     ledTo = 0;
     if (const int kind = below(20); kind < 8) {
@@ -146,6 +147,7 @@ TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
     const bool changed = Invariants::look(game) != look;
     EXPECT_EQ(invariants.broken(changed ? pressed : 0, said.value(0).toStdString()), "");
     if (ledTo != 0) {
+      EXPECT_EQ(said == QStringList("Edge of the board"), ledTo == focusedCell);
       EXPECT_EQ(cellAt(QApplication::focusWidget()->geometry().center()), ledTo);
     }
     EXPECT_EQ(fault(ring), "");
