@@ -94,9 +94,7 @@ TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
   qsizetype typed = 0;
   for (; messages.empty() && typed < 24; ++typed) {
     type("n");
-    const QRegularExpression place("row (\\d) column (\\d)");
-    const QRegularExpressionMatch at = place.match(focusedName());
-    const int index = (at.captured(1).toInt() - 1) * gridSide + at.captured(2).toInt();
+    const int index = focusedCell();
     const auto number = std::ranges::find(numberCells, index) - numberCells.begin();
     const auto op = std::ranges::find(operatorCells, index) - operatorCells.begin();
     type(QString::fromStdString(number < 17 ? game.state.SolNumbers[number].substr(1)
