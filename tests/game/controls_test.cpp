@@ -1,5 +1,6 @@
 #include <cstdlib>
 #include <ctime>
+#include <set>
 #include <sstream>
 
 #include "app/about_form.h"
@@ -81,14 +82,30 @@ label 30 1110 4725 315 Version 1.0 MS Sans Serif 7.8 bold ffffff 0 )");
 }
 
 TEST(LayoutTest, ThePicturesAndTheirColours) {
-  unsigned fingerprint = 0;
-  for (const auto colour : platform::palette) fingerprint = 31 * fingerprint + colour.value;
-  for (const auto* picture : {&smilingFace, &calculator}) {
-    for (const auto& row : picture->rows) {
-      for (const char pixel : row) fingerprint = 31 * fingerprint + static_cast<unsigned>(pixel);
+  std::vector<unsigned> colours;
+  for (const auto it : platform::palette) colours.push_back(it.value);
+  EXPECT_EQ(colours, (std::vector<unsigned>{0, 0x800000, 0x8000, 0x808000, 0x80, 0x800080, 0x8080,
+                                            0xc0c0c0, 0x808080, 0xff0000, 0xff00, 0xffff00, 0xff,
+                                            0xff00ff, 0xffff, 0xffffff}));
+  const auto& face = smilingFace.rows;
+  const auto& body = calculator.rows;
+  for (const auto& picture : {face, body}) {
+    EXPECT_TRUE(picture[0][0] == '.' && picture[31][31] == '.') << "nothing";
+    for (const auto& row : picture) {
+      const auto left = row.find_first_not_of('.'), right = row.find_last_not_of('.');
+      EXPECT_TRUE(row.size() == 32 && row[left] == '0' && row[right] == '0') << "a black rim";
     }
   }
-  EXPECT_EQ(fingerprint, 1038573527U) << "look at them, and take the number if they are right";
+  EXPECT_EQ(face[16], "00" + std::string(28, 'E') + "00") << "yellow";
+  EXPECT_EQ(face[10].substr(9, 14), "E00EEEEEEEE00E") << "its eyes";
+  EXPECT_EQ(face[23].substr(9, 14), "EECCCCCCCCCCEE") << "its mouth";
+  EXPECT_EQ(body[6].substr(6, 20), "8" + std::string(19, 'B')) << "a cyan display";
+  std::set<char> keys;
+  for (const int y : {13, 17, 21, 25}) {
+    for (const int x : {8, 13, 18, 23}) keys.insert(body[y][x]);
+    EXPECT_EQ(body[y + 2].substr(6, 20), std::string(20, 'F')) << "white between the keys";
+  }
+  EXPECT_GE(keys.size(), 10U) << "of several colours";
 }
 
 /// L and R are presses of the left and the right button, l and r their releases inside the cell, o

@@ -160,8 +160,8 @@ class Invariants {
     return shown == values ? "" : "lines show " + values + ", cell 49 that of the operator pressed";
   }
 
-  /// The value of each line and how each corner stands, as it is heard when it changes; all in one
-  /// before the first move.
+  /// The value of each line and how each corner stands, as it is heard when it changes; none before
+  /// the first move.
   static std::vector<std::string> standingsOf(const Board& board) {
     std::vector<std::string> all;
     if (board.GridDisp[21].caption().empty()) return all;

@@ -32,7 +32,9 @@ TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
       if (below(3) != 0 || !cell(pressed).typed) {
         press(pressed, std::array{left, right, middle}.at(below(3)));
       } else {
+        const bool shown = caption(pressed) == std::string(1, character);
         cell(pressed).typed(character, false);
+        if (shown) pressed = 0;  // no press, then
       }
     } else if (kind == 8) {
       clickButton(below(2) == 0 ? form.NewPuz : form.Solveit);

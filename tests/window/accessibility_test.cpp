@@ -18,6 +18,10 @@ TEST_F(AccessibilityTest, WhatIsBesideTheGridReadsAsWhatItIs) {
                   .arg(qAccessibleRoleString(it->role()), it->text(QAccessible::Name),
                        it->actionInterface()->actionNames().join("/")),
               reading);
+    it->actionInterface()->doAction("SetFocus");
+    key(control == &game.form.NewPuz ? Qt::Key_Backspace : Qt::Key_Space);  // which do nothing
+    type("c");
+    EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
   }
 }
 
@@ -90,9 +94,7 @@ TEST_F(AccessibilityTest, APuzzleIsPlayedByKeysAlone) {
   qsizetype typed = 0;
   for (; messages.empty() && typed < 24; ++typed) {
     type("n");
-    const QRegularExpression place("row (\\d) column (\\d)");
-    const QRegularExpressionMatch at = place.match(focusedName());
-    const int index = (at.captured(1).toInt() - 1) * gridSide + at.captured(2).toInt();
+    const int index = focusedCell();
     const auto number = std::ranges::find(numberCells, index) - numberCells.begin();
     const auto op = std::ranges::find(operatorCells, index) - operatorCells.begin();
     type(QString::fromStdString(number < 17 ? game.state.SolNumbers[number].substr(1)

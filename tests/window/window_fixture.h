@@ -68,6 +68,16 @@ struct WindowTest : testing::Test {
     const platform::Place& place = control.place;
     return {4 + (place.left + place.width / 2) / 15, 4 + (place.top + place.height / 2) / 15};
   }
+  /// The grid's cell at a place of the client area; 0 for none.
+  int cellAt(QPoint at) {
+    int found = 0;
+    for (int index = 1; index <= gridCells; ++index) {
+      if (QRect(middleOf(cell(index)) - QPoint(15, 15), QSize(30, 30)).contains(at)) found = index;
+    }
+    return found;
+  }
+  /// The one with the focus; 0 if it is none.
+  int focusedCell() { return cellAt(QApplication::focusWidget()->geometry().center()); }
   QPoint inWindow(const platform::Control& control) const {
     return view.mapTo(&window, middleOf(control));
   }
@@ -93,15 +103,6 @@ struct WindowTest : testing::Test {
   void choose(const QString& command) {
     menu.at(command)->trigger();
     settle();
-  }
-  /// Has cells pressed until they show the stored solution, or enough of it to be right.
-  void playSolution(const std::function<void(int)>& press) {
-    for (int turn = 0; turn < 16 * 9 && !game.state.BoardLocked; ++turn) {
-      const int k = turn / 9 + 1;
-      if (caption(operatorCells[k]) != game.state.SolOperators[k]) press(operatorCells[k]);
-      if (game.state.BoardLocked || !cell(numberCells[k]).enabled()) continue;
-      if (" " + caption(numberCells[k]) != game.state.SolNumbers[k]) press(numberCells[k]);
-    }
   }
 };
 

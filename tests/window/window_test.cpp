@@ -63,8 +63,11 @@ TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInT
 TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   ulong time = 1UL << 30;
   const auto send = [&](QWidget& to, const QString& steps) {
-    const std::map<QChar, int> keys{{'S', Qt::Key_Space}, {'R', Qt::Key_Return}, {'A', Qt::Key_Alt},
-                                    {'>', Qt::Key_Right}, {'T', Qt::Key_Tab},    {'J', Qt::Key_J}};
+    const std::map<QChar, int> keys{{'S', Qt::Key_Space},
+                                    {'R', Qt::Key_Return},
+                                    {'A', Qt::Key_Alt},
+                                    {'>', Qt::Key_Right},
+                                    {'J', Qt::Key_J}};
     // Each step is a key, + for its press or - for its release, and = where it comes at the time of
     // the one before, as the X server's repeats do.
     for (const QString& step : steps.split(' ')) {
@@ -85,24 +88,30 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   choose("Set a Puzzle for computer to solve");
   click(cell(17));
   int boxes = 0;
-  QElapsedTimer opened;
+  QElapsedTimer since;
   onModal = [&](QWidget* box) {
-    ++boxes;
-    send(*box, "S+ S-");
-    EXPECT_TRUE(box->isVisible() || opened.elapsed() >= 500) << "it may not have been met yet";
-    QTest::qWait(550);
-    send(*box, "R- R+=");
-    EXPECT_TRUE(box->isVisible()) << "held down since before the box";
-    opened.restart();
-    send(*box, "S+ S-");
-    EXPECT_TRUE(box->isVisible() || opened.elapsed() >= 500) << "another key is down";
-    send(*box, "R- R+ R-");
+    if (++boxes == 1) {
+      send(*box, "S+ S-");
+      EXPECT_TRUE(box->isVisible() || since.elapsed() >= 500) << "it may not have been met yet";
+      QTest::qWait(550);
+      send(*box, "S+ S-");
+    } else {
+      QTest::qWait(550);
+      send(*box, "R- R+=");
+      EXPECT_TRUE(box->isVisible()) << "held down since before the box";
+      since.start();
+      send(*box, "S+ S-");
+      EXPECT_TRUE(box->isVisible() || since.elapsed() >= 500) << "another key is down";
+      send(*box, "R- R+ R-");
+    }
     EXPECT_FALSE(box->isVisible());
     box->close();
   };
-  opened.start();
-  send(window, "T+ T- R+");
-  EXPECT_EQ(boxes, 1);
+  since.start();
+  click(game.form.Solveit);
+  window.activateWindow();
+  send(window, "R+");
+  EXPECT_EQ(boxes, 2);
 }
 
 TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
