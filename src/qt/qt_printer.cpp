@@ -1,8 +1,10 @@
 #include "qt/qt_printer.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QLocale>
 #include <QPainter>
@@ -62,6 +64,7 @@ std::optional<QString> ask(const QString& command, const QStringList& arguments,
   process.start(command, arguments);
   if (!process.waitForFinished(unnoticed) && process.state() != QProcess::NotRunning) {
     QProgressDialog box("Sending the page to the printer ...", "Cancel", 0, 0, window);
+    box.setWindowTitle(QCoreApplication::applicationName());
     box.setWindowModality(Qt::WindowModal);
     QObject::connect(&process, &QProcess::finished, &box, &QDialog::accept);
     QTimer::singleShot(patience - unnoticed, &box, &QDialog::reject);
