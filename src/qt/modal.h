@@ -15,9 +15,8 @@ inline bool& boxIsComing() {
   return coming;
 }
 
-/// Whether the widget's window takes no input because a modal box is open over it,
-/// or about to be. The toolkit
-/// keeps the mouse and the keyboard away by itself, but not assistive technology.
+/// Whether the widget's window takes no input because a modal box is open over it, or about to be.
+/// The toolkit keeps the mouse and the keyboard away by itself, but not assistive technology.
 inline bool isBlocked(const QWidget& widget) {
   const QWidget* box = QApplication::activeModalWidget();
   return boxIsComing() || (box != nullptr && box != widget.window());
