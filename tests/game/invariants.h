@@ -33,10 +33,9 @@ class Invariants {
     return before_.find('!') == std::string::npos ? rule : "cells look as they may";
   }
 
-  /// What the player sees and can do: the title, the label, the button (in parentheses while
-  /// disabled); the command of set-a-puzzle mode, what stands outside each corner, the disabled
-  /// commands, whether the puzzle is over, the targets if any are set; then the grid, each cell as
-  /// the mark of its look and its caption, '.' for none.
+  /// What the player sees and can do: what is shown around the board and what is disabled, whether
+  /// the puzzle is over, the targets if any are set; then the grid, each cell as the mark of its
+  /// look and its caption, '.' for none.
   static std::string look(const Game& game) {
     const Form1& form = game.form;
     std::string all = form.caption();

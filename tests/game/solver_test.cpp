@@ -1,4 +1,3 @@
-#include <array>
 #include <cmath>
 
 #include "fixture.h"
@@ -45,12 +44,11 @@ TEST_F(GameTest, DigitsHaveTheirDistributionWhateverTheClockDoes) {
     desktop.clock = 30000;
     desktop.tick = tick;
     ReseededDigits fresh(desktop);
-    std::string drawn = "1";
+    int drawn = 1;
     std::array<int, 100> pairs{};
     for (int i = 0; i < 324000; ++i) {
-      const int last = drawn.back() - '0';
-      drawn += static_cast<char>('0' + fresh.draw());
-      ++pairs.at(10 * last + drawn.back() - '0');
+      const int last = std::exchange(drawn, fresh.draw());
+      ++pairs.at(10 * last + drawn);
     }
     constexpr std::array<int, 10> share{0, 1, 2, 2, 2, 2, 2, 2, 2, 3};  // of 18
     for (int pair = 0; pair < 100; ++pair) {
