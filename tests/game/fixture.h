@@ -58,6 +58,7 @@ struct GameTest : testing::Test, Digits {
   PuzzleState& state = game.state;
   Form1& form = game.form;
   const std::string known = "771534952";
+  const std::string corners = "Corners: top left 7, top right 1, bottom left 3, bottom right 8";
   /// What `look` gives between the first and the last row: an empty grid, and the known solution.
   const std::string emptyRows =
       "\n_.#._.#._.#._.\n_._._._._. = .\n_.#._.#._.#._.\n_._._._._. = .\n =#. =#. =#. =\n";
