@@ -152,7 +152,8 @@ TEST_F(GameTest, HelpAboutAndPrintAlsoWhileASearchRuns) {
      +---+---+---+---+---+---+---+          +---+---+---+---+---+---+---+  
 )";
   };
-  const std::string blank = std::string(75, ' ') + "\n", gap = blank + blank + blank;
+  const std::string blank = std::string(75, ' ') + "\n";
+  const std::string gap = blank + blank + blank;
   EXPECT_EQ(printed,
             "Puzzle Number  2\nqaviro.hlp\n3\nAbout Tessoro\nPrint Puzzle No(s): 1 [Yes] "
             "[No]\nPrint Puzzle No(s): 32767, 2, 3 [Yes] [No]\n"

@@ -111,7 +111,8 @@ class Invariants {
     const auto result = [&](int first, int step) {
       return resultOf([&](int place) { return caption(first + place * step); });
     };
-    std::string shown, values;
+    std::string shown;
+    std::string values;
     for (const int line : {1, 3, 5}) {
       shown += caption(7 * line) + caption(42 + line);
       values += result(7 * line - 6, 1) + result(line, 7);
