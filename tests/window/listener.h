@@ -8,15 +8,12 @@
 
 namespace tessoro::test {
 
-/// The game as it is met through a screen reader and the keys: through names, roles, states,
-/// actions and events alone.
+/// The game as it is met through a screen reader and the keys.
 struct ListeningTest : PictureTest {
-  /// What clients have been told: "focus NAME", "name NAME", "StateChanged NAME", "ObjectShow
-  /// NAME", "hide NAME", and the sentences that are spoken, as "say SENTENCE".
+  /// What clients have been told: events, as "Focus NAME", and sentences, as "say SENTENCE".
   static inline QStringList told;
-  /// The names, and whether disabled, as a client knows them that has not asked again since.
+  /// The names as a client knows them that has not asked again since.
   static inline std::map<QObject*, QString> knownNames;
-  static inline std::map<QObject*, bool> knownDisabled;
   static constexpr bool announces = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
   QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&view);
 
@@ -24,10 +21,8 @@ struct ListeningTest : PictureTest {
     setListening(true);
     QAccessible::installUpdateHandler(hear);
     EXPECT_TRUE(heard("say").endsWith("Welcome")) << "said before there was a window";
-    for (int i = 0; i < all->childCount(); ++i) {
+    for (int i = 0; i < all->childCount(); ++i)
       knownNames[all->child(i)->object()] = all->child(i)->text(QAccessible::Name);
-      knownDisabled[all->child(i)->object()] = all->child(i)->state().disabled;
-    }
   }
   ~ListeningTest() override {
     QAccessible::installUpdateHandler(nullptr);
@@ -39,8 +34,8 @@ struct ListeningTest : PictureTest {
   }
   static void hear(QAccessibleEvent* event) {
     // Nobody asks a widget for anything while it is destroyed.
-    if (event->type() == QAccessible::ObjectDestroyed) return;
-    const QAccessibleInterface* source = event->accessibleInterface();
+    const auto* source =
+        event->type() == QAccessible::ObjectDestroyed ? nullptr : event->accessibleInterface();
     if (source == nullptr) return;
     QString kind = qAccessibleEventString(event->type());
     QString text = source->text(QAccessible::Name);
@@ -52,28 +47,17 @@ struct ListeningTest : PictureTest {
     }
 #endif
     told.append(kind + " " + text);
-    const bool shown = event->type() == QAccessible::ObjectShow;
-    if (shown || event->type() == QAccessible::NameChanged || event->type() == QAccessible::Focus) {
+    if (QStringList{"ObjectShow", "NameChanged", "Focus"}.contains(kind))
       knownNames[source->object()] = text;
-    }
-    if (shown || event->type() == QAccessible::StateChanged) {
-      knownDisabled[source->object()] = source->state().disabled;
-    }
   }
   /// What has been told since the last call, of the kinds that begin so.
   static QStringList heard(const QString& kind) {
     settle();
     QStringList matching;
-    for (const QString& it : std::exchange(told, {})) {
+    for (const QString& it : std::exchange(told, {}))
       if (it.startsWith(kind)) matching += it.mid(kind.size() + 1);
-    }
     return matching;
   }
-  static QString focusedName() {
-    return QAccessible::queryAccessibleInterface(QApplication::focusWidget())
-        ->text(QAccessible::Name);
-  }
-
   /// What is found at the middle of a control.
   QAccessibleInterface* at(const platform::Control& control) const {
     const QPoint middle = view.mapToGlobal(middleOf(control));

@@ -6,8 +6,7 @@
 
 namespace tessoro::test {
 
-/// The files of a print server of the test's own: its settings, its queues, the default's driver,
-/// and a command that sends nothing while the server is busy.
+/// The files of a print server of the test's own, and a command that waits while that is busy.
 static const std::map<QString, QString> serverFiles{
     {"cupsd.conf",
      "Listen HERE/cups\nBrowsing Off\nDirtyCleanInterval 0\n"
@@ -16,8 +15,7 @@ static const std::map<QString, QString> serverFiles{
      "ServerRoot HERE\nRequestRoot HERE/spool\nCacheDir HERE/cache\nStateDir HERE/state\n"
      "TempDir HERE\nErrorLog stderr\nAccessLog HERE/access\nPageLog HERE/page\n"},
     {"printers.conf",
-     "<Printer A>\nAccepting No\n</Printer>\n<DefaultPrinter B>\n</DefaultPrinter>\n"
-     "<Printer C>\n</Printer>\n"},
+     "<Printer A>\nAccepting No\n</Printer>\n<DefaultPrinter B>\n</DefaultPrinter>\n"},
     {"ppd/B.ppd",
      "*PPD-Adobe: \"4.3\"\n*cupsFilter: \"application/pdf 0 -\"\n*OpenUI *PageSize: PickOne\n"
      "*DefaultPageSize: Legal\n*PageSize Legal: \"\"\n*CloseUI: *PageSize\n"
@@ -29,7 +27,6 @@ struct PrintTest : WindowTest {
   const QDir folder = QFileInfo(qgetenv("CUPS_SERVER")).dir();
   const std::function<void(QWidget*)> answer = onModal;
 
-  PrintTest() { QDir::setCurrent(folder.path()); }
   /// What the program says on standard output.
   static QString output(const QString& program, const QStringList& arguments,
                         const QByteArray& input = {}) {
@@ -51,10 +48,8 @@ struct PrintTest : WindowTest {
       auto* wait = dynamic_cast<QProgressDialog*>(modal);
       if (wait) return messages.push_back(wait->labelText()), onWait(*wait);
       auto& dialog = dynamic_cast<QFileDialog&>(*modal);
-      EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
-      EXPECT_EQ(dialog.directory(), QDir::home().isRoot() ? QDir::temp() : folder);
-      const QString file = QFileInfo(dialog.selectedFiles().value(0)).fileName();
-      messages.push_back(dialog.windowTitle() + ' ' + file + ' ' + dialog.selectedNameFilter());
+      messages.push_back(dialog.windowTitle() + ' ' + dialog.selectedFiles().value(0));
+      EXPECT_EQ(dialog.selectedNameFilter(), "PDF (*.pdf)");
       if (files.isEmpty()) return dialog.reject();
       dialog.findChild<QLineEdit*>("fileNameEdit")->setText(files.takeFirst());
       QMetaObject::invokeMethod(&dialog, "accept");
@@ -78,12 +73,16 @@ struct PrintTest : WindowTest {
 
 TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   const std::string noPrinter =
-      "TESSORO: No printer was found; the page can be saved as PDF.\n"
-      "Save the page as PDF Tessoro puzzles.pdf PDF (*.pdf)";
+      "TESSORO: No printer was found; the page can be saved as PDF.\nSave the page as PDF " +
+      folder.filePath("Tessoro puzzles.pdf").toStdString();
   const std::string waiting = "Sending the page to the printer ...";
+  const std::string unknown =
+      "\nTESSORO: It is not known whether the printer has got the page: look for it there before "
+      "you print it again.";
   const std::string notSent =
       "TESSORO: The page could not be sent to the printer; it can be printed again.";
-  for (int puzzle = 2; puzzle <= 4; ++puzzle) game.search.FindSolution();
+  game.search.FindSolution();
+  QDir::setCurrent(folder.path());
   EXPECT_EQ(print(), noPrinter) << "cancelling is no failure";
   output("touch", {"saved.pdf", "busy"});
   print({"saved", "other"});
@@ -106,14 +105,10 @@ TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   const auto isReady = [] { return output("lpstat", {"-a"}).contains("B accepting"); };
   ASSERT_TRUE(QTest::qWaitFor(isReady, 30000)) << server.readAllStandardError().toStdString();
   EXPECT_EQ(print({}, [](auto& wait) { wait.template findChild<QPushButton*>()->click(); }),
-            waiting +
-                "\nTESSORO: It is not known whether the printer has got the page: look for it "
-                "there before you print it again.");
-  const QDateTime start = QDateTime::currentDateTime();
+            waiting + unknown);
   EXPECT_EQ(print({}, [](auto&) { QFile::remove("busy"); }), waiting);
   expectThePage("spool/d00001-001", "612 x 1008 pts");
   EXPECT_TRUE(output("cat", {"spool/c00001"}).contains("Tessoro puzzles"));
-  EXPECT_EQ(print(), "");
   output("/usr/sbin/lpadmin", {"-x", "B"});
   EXPECT_EQ(print(), notSent) << "A, which is no default, rejects it";
   output("/usr/sbin/cupsaccept", {"A"});
@@ -123,7 +118,6 @@ TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   EXPECT_EQ(print(), notSent) << "The disk is full";
   kill(static_cast<pid_t>(server.processId()), SIGSTOP);
   EXPECT_EQ(print(), waiting + '\n' + notSent);
-  EXPECT_EQ(start.secsTo(QDateTime::currentDateTime()) / 8, 1) << "all but 10 s are short";
   server.close();
   qunsetenv("HOME");
   EXPECT_EQ(print({folder.filePath("page")}),
@@ -131,8 +125,7 @@ TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
   output("prlimit", {"--fsize=unlimited", "--pid", self});
 }
 
-/// 10 characters and 6 lines to the inch, whole on the paper, smaller only where it is too small,
-/// in any typeface.
+/// 10 characters and 6 lines to the inch in any typeface, smaller only where the paper is.
 TEST_F(PrintTest, TheSheetStandsWholeOnOnePage) {
   qt::QtPrinter printer("Tessoro puzzles", {});
   printer.setFontName("Arial");
@@ -140,17 +133,15 @@ TEST_F(PrintTest, TheSheetStandsWholeOnOnePage) {
   for (int line = 0; line < 59; ++line) printer.printLine(std::string(75, 'M'));
   for (const auto& [paper, scale] : std::map<QPageSize::PageSizeId, double>{
            {QPageSize::A4, 1}, {QPageSize::A6, 0.4833}, {QPageSize::Imperial8x10, 0.9661}}) {
-    std::vector<double> edges;  // the left, top and right of each line
     const QString words = output("pdftotext", {"-bbox", "-", "-"}, printer.sheet(QPageSize(paper)));
-    const QRegularExpression edge("(?:xMin|yMin|xMax)=\"([0-9.]+)\"");
-    for (const auto& match : edge.globalMatch(words)) edges.push_back(match.captured(1).toDouble());
-    ASSERT_EQ(edges.size(), 59U * 3);
+    const QStringList edges = words.split('"').mid(words.section("<word", 0, 0).count('"'));
+    ASSERT_EQ(edges.size(), 59 * 8 + 1) << "four of each line, and what is between them";
     const QSizeF size = QPageSize(paper).size(QPageSize::Point);
     const QSizeF margin = (size - QSizeF(540, 708) * scale) / 2;
-    EXPECT_NEAR(edges[0], margin.width(), 1);
-    EXPECT_NEAR(edges[2], size.width() - margin.width(), 1);
-    EXPECT_NEAR(edges[1], margin.height(), 1);
-    EXPECT_NEAR(edges[58 * 3 + 1], size.height() - margin.height() - 12 * scale, 1);
+    EXPECT_NEAR(edges[1].toDouble(), margin.width(), 1);
+    EXPECT_NEAR(edges[5].toDouble(), size.width() - margin.width(), 1);
+    EXPECT_NEAR(edges[3].toDouble(), margin.height(), 1);
+    EXPECT_NEAR(edges[58 * 8 + 3].toDouble(), size.height() - margin.height() - 12 * scale, 1);
   }
 }
 

@@ -50,8 +50,7 @@ struct WindowTest : testing::Test {
       watch.start();
     });
     watch.start(1);
-    const auto commands = window.menuBar()->actions().first()->menu()->actions();
-    for (QAction* command : commands) menu[command->text()] = command;
+    for (QAction* it : window.findChild<QMenu*>()->actions()) menu[it->text()] = it;
     game.startUp.Form_Load();
     settle();
   }
@@ -70,19 +69,18 @@ struct WindowTest : testing::Test {
   }
   /// The grid's cell at a place of the client area; 0 for none.
   int cellAt(QPoint at) {
-    int found = 0;
-    for (int index = 1; index <= gridCells; ++index) {
-      if (QRect(middleOf(cell(index)) - QPoint(15, 15), QSize(30, 30)).contains(at)) found = index;
-    }
-    return found;
+    int index = gridCells;
+    const QRect place(-15, -15, 30, 30);
+    while (index > 0 && !place.contains(at - middleOf(cell(index)))) --index;
+    return index;
   }
   /// The one with the focus; 0 if it is none.
   int focusedCell() { return cellAt(QApplication::focusWidget()->geometry().center()); }
   QPoint inWindow(const platform::Control& control) const {
     return view.mapTo(&window, middleOf(control));
   }
-  void click(const platform::Control& control, Qt::MouseButton button = Qt::LeftButton) {
-    QTest::mouseClick(window.windowHandle(), button, {}, inWindow(control));
+  void click(const platform::Control& control) {
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, inWindow(control));
   }
   /// Presses and releases a key in the window with the focus, each at a time of its own.
   void key(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) const {
@@ -96,9 +94,8 @@ struct WindowTest : testing::Test {
     }
   }
   void type(const QString& characters) const {
-    for (const QChar it : characters) {
+    for (const QChar it : characters)
       key(it.toUpper().unicode(), it.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, it);
-    }
   }
   void choose(const QString& command) {
     menu.at(command)->trigger();
