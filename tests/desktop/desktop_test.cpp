@@ -10,9 +10,10 @@
 /// moves the mouse through the server and sees nothing but the screen.
 namespace tessoro::test {
 
+/// A program that ends with the test, even with one that is cut off.
 struct Process : QProcess {
   Process(const QString& command, const QStringList& arguments) {
-    setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });  // with a test cut off, too
+    setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
     start(command, arguments);
   }
   ~Process() override { close(); }
@@ -49,10 +50,9 @@ struct DesktopTest : testing::Test {
   QRect rectOf(const platform::Place& place) const {
     return {4 + place.left / 15, picture().height() - 306 + place.top / 15, 30, 30};
   }
-  QRgb colourOf(int cell) const { return picture().copy(rectOf(placeOf(cell))).pixel(3, 3); }
-  QImage digitOf(int cell) const {
-    return picture().copy(rectOf(placeOf(cell)) - QMargins(8, 8, 8, 8));
-  }
+  QImage pictureOf(int cell) const { return picture().copy(rectOf(placeOf(cell))); }
+  QRgb colourOf(int cell) const { return pictureOf(cell).pixel(3, 3); }
+  QImage digitOf(int cell) const { return pictureOf(cell).copy(8, 8, 14, 14); }
   void press(QPoint at) const {
     xdotool(QString("mousemove --window %1 %2 %3 click 1").arg(window).arg(at.x()).arg(at.y()));
   }
@@ -66,7 +66,8 @@ TEST_F(DesktopTest, PressesMoveAndExitEndsTheProgram) {
   }
   EXPECT_EQ(colourOf(49), qRgb(0, 0, 0));
   EXPECT_EQ(picture().pixel(rectOf(smileyPlace(1)).center()), qRgb(255, 255, 0));
-  EXPECT_EQ(xdotool("search --class ^Tessoro$"), window) << "as desktops know it";
+  EXPECT_EQ(xdotool("search --class ^Tessoro$"), window) << "by which desktops know whose it is";
+  EXPECT_EQ(xdotool("search --classname ^tessoro$"), window);
   xdotool("windowfocus --sync " + window);
   xdotool("keydown space sleep 1.2 keyup space");  // the server repeats it from 0.66 s on
   EXPECT_TRUE(eventually([&] { return digitOf(5) == digitOf(3); })) << "a key is one press";

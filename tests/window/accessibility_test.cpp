@@ -14,7 +14,6 @@ TEST_F(AccessibilityTest, TheBoardReadsAsWhatItIs) {
            {&cell(16), "Button: empty, row 3 column 2 [Press/SetFocus]"},
            {&cell(51), "StaticText: top right target " + target + " [] disabled"},
            {&game.form.board.NPict[1], "Graphic: top left correct []"},
-           {&game.form.RightMess, "StaticText: Get corner numbers right []"},
            {&game.form.NewPuz, "Button: New Puzzle [Press/SetFocus]"}}) {
     QAccessibleInterface* it = at(*control);
     const QString actions = it->actionInterface()->actionNames().join("/");
@@ -94,7 +93,7 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
   key(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(heard("say"), QStringList("the keys, link")) << "where it was left";
   for (int i = 0; i < 99 && help->focusWidget() == text; ++i) key(Qt::Key_Tab);
-  EXPECT_EQ(heard("Focus"), QStringList("Contents"));
+  EXPECT_TRUE(heard("Focus").contains("Contents"));
   key(Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
 }

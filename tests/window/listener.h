@@ -28,7 +28,6 @@ struct ListeningTest : PictureTest {
     QAccessible::installUpdateHandler(nullptr);
     setListening(false);
   }
-  /// As when a screen reader begins to listen, or ends.
   static void setListening(bool listening) {
     QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listening);
   }

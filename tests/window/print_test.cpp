@@ -37,8 +37,7 @@ struct PrintTest : WindowTest {
     process.waitForFinished();
     return process.readAllStandardOutput();
   }
-  /// Has the page printed. Where a file is asked for, names one after the other, replacing none but
-  /// the last, or cancels. Gives what has been said after the question.
+  /// Has the page printed, or saved as the last of the files, else cancelled. Gives what is said.
   std::string print(QStringList files = {}, const OnWait& onWait = [](auto&) {}) {
     messages.clear();
     onModal = [&](QWidget* modal) {

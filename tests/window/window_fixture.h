@@ -74,7 +74,6 @@ struct WindowTest : testing::Test {
     while (index > 0 && !place.contains(at - middleOf(cell(index)))) --index;
     return index;
   }
-  /// The one with the focus; 0 if it is none.
   int focusedCell() { return cellAt(QApplication::focusWidget()->geometry().center()); }
   QPoint inWindow(const platform::Control& control) const {
     return view.mapTo(&window, middleOf(control));
