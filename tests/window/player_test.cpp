@@ -59,7 +59,7 @@ struct WindowPlayerTest : ListeningTest {
 };
 
 TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
-  onModal = [this](QWidget* box) {
+  onModal = [](QWidget* box) {
     const auto* label = box->findChild<QLabel*>("qt_msgbox_label");
     const QString name = label->accessibleName();
     told += "say " + name.chopped(label->text().size()).chopped(name == label->text() ? 0 : 2);
