@@ -67,10 +67,11 @@ struct WindowTest : testing::Test {
     const platform::Place& place = control.place;
     return {4 + (place.left + place.width / 2) / 15, 4 + (place.top + place.height / 2) / 15};
   }
-  /// The grid's cell at a place of the client area; 0 for none.
+  /// The grid's cell at a place of the client area; 0 for none, and near the edges, where a
+  /// neighbour or a face may lie over it.
   int cellAt(QPoint at) {
     int index = gridCells;
-    const QRect place(-15, -15, 30, 30);
+    const QRect place(-12, -12, 24, 24);
     while (index > 0 && !place.contains(at - middleOf(cell(index)))) --index;
     return index;
   }
