@@ -34,11 +34,11 @@ std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
 }
 
 /// The keys that stand for a press of a mouse button.
-constexpr std::array<std::pair<int, MouseButton>, 4> pressingKeys{
-    {{Qt::Key_Space, MouseButton::left},
-     {Qt::Key_Return, MouseButton::left},
-     {Qt::Key_Enter, MouseButton::left},
-     {Qt::Key_Backspace, MouseButton::right}}};
+constexpr auto pressingKeys =
+    std::to_array<std::pair<int, MouseButton>>({{Qt::Key_Space, MouseButton::left},
+                                                {Qt::Key_Return, MouseButton::left},
+                                                {Qt::Key_Enter, MouseButton::left},
+                                                {Qt::Key_Backspace, MouseButton::right}});
 
 QAccessible::Role toRole(Accessible::Role role) {
   return role == Accessible::Role::button  ? QAccessible::Button

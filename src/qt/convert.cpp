@@ -111,7 +111,6 @@ QIcon toQIcon(const platform::Picture& picture) {
 }
 
 void substituteFonts() {
-  QFont::insertSubstitution("Arial", "Liberation Sans");
   QFont::insertSubstitution("Courier", "Liberation Mono");
   QFont::insertSubstitution("MS Sans Serif", QApplication::font().family());
 }

@@ -47,14 +47,14 @@ constexpr QPoint toLeft(-1, 0);
 constexpr QPoint toRight(1, 0);
 constexpr QPoint upwards(0, -1);
 constexpr QPoint downwards(0, 1);
-constexpr std::array<Way, 8> ways{{{Qt::Key_Left, false, toLeft, stay, false},
-                                   {Qt::Key_Right, false, toRight, stay, false},
-                                   {Qt::Key_Up, false, stay, upwards, false},
-                                   {Qt::Key_Down, false, stay, downwards, false},
-                                   {Qt::Key_Home, false, toLeft, stay, true},
-                                   {Qt::Key_End, false, toRight, stay, true},
-                                   {Qt::Key_Home, true, toLeft, upwards, true},
-                                   {Qt::Key_End, true, toRight, downwards, true}}};
+constexpr auto ways = std::to_array<Way>({{Qt::Key_Left, false, toLeft, stay, false},
+                                          {Qt::Key_Right, false, toRight, stay, false},
+                                          {Qt::Key_Up, false, stay, upwards, false},
+                                          {Qt::Key_Down, false, stay, downwards, false},
+                                          {Qt::Key_Home, false, toLeft, stay, true},
+                                          {Qt::Key_End, false, toRight, stay, true},
+                                          {Qt::Key_Home, true, toLeft, upwards, true},
+                                          {Qt::Key_End, true, toRight, downwards, true}});
 
 }  // namespace
 

@@ -16,8 +16,8 @@ constexpr int boxPatience = 500;  // milliseconds
 constexpr int longestDelay = 1000;
 
 /// The keys that go on while they are held down.
-constexpr std::array<int, 6> leadingKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
-                                         Qt::Key_Down, Qt::Key_Tab,   Qt::Key_Backtab};
+constexpr std::array leadingKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
+                                 Qt::Key_Down, Qt::Key_Tab,   Qt::Key_Backtab};
 
 /// What stays the same from a key's press to its release: with Shift let go in between, its name
 /// does not.

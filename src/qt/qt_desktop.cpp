@@ -21,22 +21,23 @@
 namespace qt {
 namespace {
 
+constexpr int pauseAfterKeys = 500;  // milliseconds
 /// Device-independent pixels. The toolkit's own title bars centre the title in a box, and keep room
 /// for three buttons at the right.
-constexpr int pauseAfterKeys = 500;  // milliseconds
 constexpr int roomForTitle = 206;
+
+constexpr const char* noDisplay =
+    "cannot open a window, because there is no display to open it on.";
 
 /// What keeps the toolkit from opening windows, by what it says of it, in the order of what
 /// helps most.
-constexpr std::array<std::pair<const char*, const char*>, 3> obstacles{{
+constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
     {"Could not find the Qt platform plugin \"wayland\"",
      "cannot open a window in this Wayland session, because the package qt6-wayland is not "
      "installed."},
-    {"could not connect to display",
-     "cannot open a window, because there is no display to open it on."},
-    {"Failed to create wl_display",
-     "cannot open a window, because there is no display to open it on."},
-}};
+    {"could not connect to display", noDisplay},
+    {"Failed to create wl_display", noDisplay},
+});
 
 [[noreturn]] void endFor(const char* obstacle) {
   std::cerr << qPrintable(QCoreApplication::applicationName()) << ": " << obstacle << "\n";

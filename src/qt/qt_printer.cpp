@@ -104,7 +104,6 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
 
   QFont font(toQString(font_.name));
   font.setStyleHint(QFont::TypeWriter);
-  font.setFixedPitch(true);
   font.setPixelSize(drawnSize);
   painter.setFont(font);
   // A stand-in of another width is stretched, so that columns stand where they should.

@@ -40,7 +40,8 @@ struct DesktopTest : testing::Test {
       window = xdotool("search --onlyvisible --name ^Puzzle\\sNumber\\s\\s1$");
       return !window.isEmpty();
     })) << "the window is titled with the first puzzle's number";
-    ASSERT_TRUE(eventually([&] { return colourOf(49) == qRgb(0, 128, 0); })) << "it is drawn";
+    ASSERT_TRUE(eventually([&] { return pictureOf(49).pixel(3, 3) == qRgb(0, 128, 0); }))
+        << "it is drawn";
   }
 
   QImage picture() const {
@@ -51,7 +52,6 @@ struct DesktopTest : testing::Test {
     return {4 + place.left / 15, picture().height() - 306 + place.top / 15, 30, 30};
   }
   QImage pictureOf(int cell) const { return picture().copy(rectOf(placeOf(cell))); }
-  QRgb colourOf(int cell) const { return pictureOf(cell).pixel(3, 3); }
   QImage digitOf(int cell) const { return pictureOf(cell).copy(8, 8, 14, 14); }
   void press(QPoint at) const {
     xdotool(QString("mousemove --window %1 %2 %3 click 1").arg(window).arg(at.x()).arg(at.y()));
@@ -64,7 +64,7 @@ TEST_F(DesktopTest, PressesMoveAndExitEndsTheProgram) {
     press(rectOf(placeOf(cell)).center());
     ASSERT_TRUE(eventually([&] { return digitOf(cell) != before; }));
   }
-  EXPECT_EQ(colourOf(49), qRgb(0, 0, 0));
+  EXPECT_EQ(pictureOf(49).pixel(3, 3), qRgb(0, 0, 0));
   EXPECT_EQ(picture().pixel(rectOf(smileyPlace(1)).center()), qRgb(255, 255, 0));
   EXPECT_EQ(xdotool("search --class ^Tessoro$"), window) << "by which desktops know whose it is";
   EXPECT_EQ(xdotool("search --classname ^tessoro$"), window);
@@ -94,6 +94,8 @@ TEST(NoWindowTest, StandardErrorTellsWhyAndThereIsNoCoreDump) {
            {{"WAYLAND_DISPLAY=nowhere", copy},
             "cannot open a window in this Wayland session, because the package qt6-wayland is not "
             "installed.\n"},
+           {{"XDG_RUNTIME_DIR=" + folder.path(), "QT_QPA_PLATFORM=wayland", TESSORO_PROGRAM},
+            "cannot open a window, because there is no display to open it on.\n"},
            {{"FONTCONFIG_FILE=" + folder.path(), "QT_QPA_PLATFORM=offscreen", TESSORO_PROGRAM},
             "cannot show any text, because no font is installed; install the package "
             "fonts-liberation.\n"},

@@ -21,10 +21,18 @@ TEST(CaptionsTest, ReadsTheLongestDecimalPrefixRoundedHalfToEven) {
       {"", 0},    {":", 0},   {"1", 1},    {"9", 9},  {"  6", 6}, {"2.5", 2},      {"3.5", 4},
       {"inf", 0}, {"1e3", 1}, {"-3x", -3}, {"+4", 4}, {"+-3", 0}, {"99999", 32767}};
   for (const auto& [caption, number] : captions) EXPECT_EQ(readNumber(caption), number) << caption;
+  EXPECT_EQ(trimmed("  6 "), "6");
 }
 
 TEST_F(GameTest, TheGrandTotalTakesTheFirstPairsThatFit) {
   SolutionAttempt attempt(state, *this);
+  script = known;
+  attempt.run();
+  for (std::size_t k = 1; k <= 9; ++k) {
+    const auto number = [&](int at) { return readNumber(state.SolNumbers[at]); };
+    EXPECT_EQ(attempt.RowPairValue[k], EvalLine(number(13), number(14), number(15),
+                                                OpPairs[k].substr(0, 1), OpPairs[k].substr(1)));
+  }
   std::string taken;
   for (std::size_t first = 1; first <= 9; ++first) {
     attempt.RowPairValue.fill(10);  // equal, but no digit

@@ -1,30 +1,86 @@
-#include "listener.h"
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <random>
+
+#include "game/invariants.h"
+#include "picture.h"
 
 namespace tessoro::test {
 
-using AccessibilityTest = ListeningTest;
+/// The game as it is met through a screen reader and the keys.
+struct AccessibilityTest : PictureTest {
+  /// What clients have been told: events, as "Focus NAME", and sentences, as "say SENTENCE".
+  static inline QStringList told;
+  /// The names as a client knows them that has not asked again since.
+  static inline std::map<QObject*, QString> knownNames;
+  static constexpr bool announces = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
+  QAccessibleInterface* all = QAccessible::queryAccessibleInterface(&view);
+
+  AccessibilityTest() {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+    QAccessible::installUpdateHandler(hear);
+    EXPECT_TRUE(heard("say").endsWith("Welcome")) << "said before there was a window";
+    for (int i = 0; i < all->childCount(); ++i)
+      knownNames[all->child(i)->object()] = all->child(i)->text(QAccessible::Name);
+  }
+  ~AccessibilityTest() override {
+    QAccessible::installUpdateHandler(nullptr);
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(false);
+  }
+  static void hear(QAccessibleEvent* event) {
+    // Nobody asks a widget for anything while it is destroyed.
+    const auto* source =
+        event->type() == QAccessible::ObjectDestroyed ? nullptr : event->accessibleInterface();
+    if (source == nullptr) return;
+    QString kind = qAccessibleEventString(event->type());
+    QString text = source->text(QAccessible::Name);
+    if (source->role() == QAccessible::Notification) kind = kind == "ObjectShow" ? "say" : "";
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    if (auto* announcement = dynamic_cast<QAccessibleAnnouncementEvent*>(event)) {
+      kind = "say";
+      text = announcement->message();
+    }
+#endif
+    const auto* change = dynamic_cast<QAccessibleStateChangeEvent*>(event);
+    if (change == nullptr || change->changedStates().disabled) told.append(kind + " " + text);
+    if (QStringList{"ObjectShow", "NameChanged", "Focus"}.contains(kind))
+      knownNames[source->object()] = text;
+  }
+  /// What has been told since the last call, of the kinds that begin so.
+  static QStringList heard(const QString& kind) {
+    settle();
+    QStringList matching;
+    for (const QString& it : std::exchange(told, {}))
+      if (it.startsWith(kind)) matching += it.mid(kind.size() + 1);
+    return matching;
+  }
+  /// What is found at the middle of a control.
+  QAccessibleInterface* at(const platform::Control& control) const {
+    const QPoint middle = view.mapToGlobal(middleOf(control));
+    return all->childAt(middle.x(), middle.y());
+  }
+  void act(const platform::Control& control, const QString& action) const {
+    at(control)->actionInterface()->doAction(action);
+    settle();
+  }
+};
 
 TEST_F(AccessibilityTest, TheBoardReadsAsWhatItIs) {
   act(cell(17), "Decrease");
-  const std::string target = caption(51);
-  for (const auto& [control, reading] : std::map<const platform::Control*, std::string>{
-           {&cell(3), "Button: empty, row 1 column 3 [Press/Decrease/SetFocus]"},
+  const QString target = caption(51).c_str();
+  for (const auto& [control, reading] : std::map<const platform::Control*, QString>{
+           {&cell(3), "Button: empty, row 1 column 3 [Press Decrease SetFocus]"},
            {&cell(7),
             "Button: no value, row 1 column 7, target " + target + " [SetFocus] disabled"},
-           {&cell(16), "Button: empty, row 3 column 2 [Press/SetFocus]"},
            {&cell(51), "StaticText: top right target " + target + " [] disabled"},
-           {&game.form.board.NPict[1], "Graphic: top left correct []"},
-           {&game.form.NewPuz, "Button: New Puzzle [Press/SetFocus]"}}) {
+           {&game.form.board.NPict[1], "Graphic: top left correct []"}}) {
     QAccessibleInterface* it = at(*control);
-    const QString actions = it->actionInterface()->actionNames().join("/");
-    EXPECT_EQ(QString("%1: %2 [%3]%4")
-                  .arg(qAccessibleRoleString(it->role()), it->text(QAccessible::Name), actions,
-                       it->state().disabled ? " disabled" : ""),
-              QString::fromStdString(reading));
-    act(*control, "SetFocus");
-    key(control == &game.form.NewPuz ? Qt::Key_Backspace : Qt::Key_Space);  // which only cells take
-    type("c");
-    EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
+    const QString actions = " [" + it->actionInterface()->actionNames().join(' ') + "]";
+    const QString what =
+        QString(qAccessibleRoleString(it->role())) + ": " + it->text(QAccessible::Name);
+    EXPECT_EQ(what + actions + (it->state().disabled ? " disabled" : ""), reading);
   }
 }
 
@@ -52,8 +108,10 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.contains("-"));
   for (const auto opening : {Qt::Key_F10, Qt::Key_Alt}) {
     key(opening);
-    EXPECT_NE(dynamic_cast<QMenu&>(*QApplication::activePopupWidget()).activeAction(), nullptr);
+    const auto& popup = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+    EXPECT_EQ(popup.activeAction(), menu.at("Set a Puzzle for computer to solve"));
     key(Qt::Key_Escape);
+    EXPECT_EQ(focusedCell(), 17);
   }
   key(Qt::Key_Tab);
   choose("Set a Puzzle for computer to solve");
@@ -73,21 +131,40 @@ TEST_F(AccessibilityTest, KeysLeadThroughTheGrid) {
   EXPECT_EQ(heard("say").filter("board"), QStringList("Edge of the board"));
 }
 
-TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
+TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   QString about;
+  key(Qt::Key_F1);
+  auto* help = &dynamic_cast<qt::HelpWindow&>(*QApplication::activeWindow());
+  auto* text = help->findChild<QTextBrowser*>();
+  const int top = text->verticalScrollBar()->value();
+  const auto* bar = help->findChild<QToolBar*>();
+  EXPECT_FALSE(bar->actions().at(1)->isEnabled() || bar->isMovable() ||
+               help->windowIcon().isNull());
+  EXPECT_EQ(help->windowTitle() + bar->windowTitle() + bar->actions().at(1)->text(),
+            "Tessoro HelpNavigationBack");
+  EXPECT_EQ(help->size(), QSize(560, 620));
   onModal = [&](QWidget* box) {
     about = announces ? heard("say").join("") : box->accessibleDescription();
+    for (QAction* way : bar->actions()) {
+      for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(help->windowHandle(), it);
+      EXPECT_GT(text->verticalScrollBar()->value(), top) << "a link leads on";
+      way->trigger();
+      EXPECT_EQ(text->verticalScrollBar()->value(), top) << way->text().toStdString();
+    }
     box->close();
   };
   choose("About");
-  EXPECT_EQ(about, "Tessoro, written by the Tessoro developers. tessoro@example.org. Version 1.0");
+  EXPECT_TRUE(about.endsWith(
+      "Tessoro, written by the Tessoro developers. tessoro@example.org. Version 1.0"));
+  help->close();
+  heard("");
   choose("Help");
-  QWidget* help = QApplication::activeWindow();
-  EXPECT_EQ(help->windowTitle(), "Tessoro Help");
+  EXPECT_EQ(told.filter("say ").join(""),
+            "say Tessoro. The arrow keys go through the text, Tab to its links, Escape closes it");
+  EXPECT_EQ(QApplication::activeWindow(), help);
   EXPECT_TRUE(heard("Focus").contains("Help"));
   for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) key(it);
   EXPECT_EQ(heard("say"), QStringList({"the keys, link", "Playing by keys and by ear"}));
-  const auto* text = help->findChild<QTextBrowser*>();
   EXPECT_EQ(text->textCursor().block().text().simplified(), "Playing by keys and by ear");
   EXPECT_TRUE(text->textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard)) << "a caret";
   key(Qt::Key_Left, Qt::AltModifier);
@@ -96,32 +173,134 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOut) {
   EXPECT_TRUE(heard("Focus").contains("Contents"));
   key(Qt::Key_Escape);
   EXPECT_FALSE(help->isVisible());
+
+  const QTemporaryDir folder;
+  QFile file(folder.filePath("some.hlp"));
+  for (const auto& [content, shown] : std::map<QByteArray, QString>{
+           {{}, "The help file \"some.hlp\" cannot be found."},
+           {" \n", "The help file \"some.hlp\" is empty."},
+           {"\x89PNG", "The help file \"some.hlp\" is damaged: it is not a text."},
+           {"<h1>Help</h1>", "Help"},
+           {"<h1>New</h1>", "New"}}) {
+    if (!content.isNull() && file.open(QIODevice::WriteOnly)) file.write(content);
+    file.close();
+    help->showContents(file.fileName());
+    EXPECT_EQ(text->toPlainText(), shown);
+  }
+  help->showContents(folder.path());
+  EXPECT_TRUE(text->toPlainText().endsWith("cannot be read."));
 }
 
 TEST_F(AccessibilityTest, TheLastMoveIsReadOutWithTheBoxAndTheNextPuzzleAtOnce) {
   QString last;
-  onModal = [this, &last, answer = onModal](QWidget* box) {
+  QElapsedTimer pressed;
+  onModal = [this, &last, &pressed, answer = onModal](QWidget* box) {
     last = box->findChild<QLabel*>("qt_msgbox_label")->accessibleName();
     act(cell(17), "Press");
     key(Qt::Key_Space);
     choose("Set a Puzzle for computer to solve");
+    EXPECT_GE(pressed.elapsed(), 90) << "the key has been taken in before";
+    QTest::qWait(1100);
+    EXPECT_EQ(heard("say").filter("You got").size(), 1) << "the key has cut it short";
     answer(box);
   };
   for (int k = 1; k <= 16; ++k) {
     cell(numberCells[k]).SetFocus();
     type(QString::fromStdString(game.state.SolNumbers[k].substr(1)));
     cell(operatorCells[k]).SetFocus();
+    pressed.start();
     type(QString::fromStdString(game.state.SolOperators[k]));
   }
   EXPECT_EQ(messages, std::vector<QString>{"TESSORO: You got it !"});
   EXPECT_TRUE(last.endsWith("is correct. You got it !")) << last.toStdString();
-  EXPECT_FALSE(last.startsWith(heard("say").last())) << "it is not said twice";
+  EXPECT_TRUE(heard("say").filter("is correct").isEmpty()) << "it is not said twice";
   key(Qt::Key_Space);
   EXPECT_EQ(heard("say"), QStringList("The puzzle is over"));
   for (const auto it : {Qt::Key_Tab, Qt::Key_Space}) key(it);
   EXPECT_TRUE(told.filter(QRegularExpression("target $")).isEmpty()) << "of a board in between";
   EXPECT_FALSE(told.contains("NameChanged Puzzle Number  2")) << "it is in the sentence";
   EXPECT_TRUE(heard("say").value(0).startsWith("Puzzle 2. Corners: top left "));
+}
+
+/// Somebody who uses the mouse, the keys and the actions of a screen reader at random.
+struct WindowPlayerTest : AccessibilityTest {
+  std::mt19937 random{std::random_device{}()};
+  QString done;     ///< the last event, in words
+  int pressed = 0;  ///< the cell of the grid that it may have pressed
+  bool ring = false;
+
+  int below(qsizetype end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
+  auto anyOf(const auto& list) { return *(std::begin(list) + below(std::ssize(list))); }
+
+  void actAtRandom() {
+    const bool takesFocus = QApplication::focusWidget()->focusPolicy() != Qt::NoFocus;
+    const int from = pressed = focusedCell();
+    if (const int kind = below(20); kind < 8) {
+      const QPoint point(below(view.width()), below(view.height()));
+      done = "click " + QDebug::toString(point);
+      pressed = cellAt(point);
+      ring = false;
+      const auto button = anyOf(std::array{Qt::LeftButton, Qt::RightButton, Qt::MiddleButton});
+      QTest::mouseClick(window.windowHandle(), button, {}, view.mapTo(&window, point));
+    } else if (kind < 12) {
+      const int number = below(7);
+      const auto it = std::array{Qt::Key_Space, Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Left,
+                                 Qt::Key_Down,  Qt::Key_End,    Qt::Key_Tab}[number];
+      done = QDebug::toString(it);
+      if (number > 2) pressed = 0;
+      ring = true;
+      key(it);
+    } else if (kind < 17) {
+      const QChar it = anyOf(QString("123456789+-*rctlnN"));
+      done = QString("type ") + it;
+      // The button is in no row or column; what only a client can give the focus takes nothing.
+      ring = ring || from != 0 || (takesFocus && it != 'r' && it != 'c');
+      if (it.isLetter()) pressed = 0;
+      type(it);
+    } else if (kind < 19) {
+      QAccessibleInterface* control = all->child(below(all->childCount()));
+      const QString action = anyOf(control->actionInterface()->actionNames() << "SetFocus");
+      done = action + " " + control->text(QAccessible::Name);
+      const QPoint middle = dynamic_cast<QWidget*>(control->object())->geometry().center();
+      pressed = action == "SetFocus" ? 0 : cellAt(middle);
+      if (!control->state().invisible) control->actionInterface()->doAction(action);
+    } else {
+      done = anyOf(
+          QStringList{"Start a Solution", "Show Solution", "Set a Puzzle for computer to solve"});
+      pressed = 0;
+      choose(done);
+    }
+    settle();
+    window.activateWindow();  // as a window manager does when a box closes
+  }
+};
+
+TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
+  onModal = [](QWidget* box) {
+    const auto* label = box->findChild<QLabel*>("qt_msgbox_label");
+    const QString name = label->accessibleName();
+    told += "say " + name.chopped(label->text().size()).chopped(name == label->text() ? 0 : 2);
+    dynamic_cast<QMessageBox*>(box)->buttons().first()->click();
+  };
+  Invariants invariants(game);
+  for (int events = 0; events < 200; ++events) {
+    const std::string look = Invariants::look(game);
+    actAtRandom();
+    SCOPED_TRACE(done.toStdString() + "\n" + look);
+    const QStringList said = heard("say");
+    const bool changed = Invariants::look(game) != look;
+    EXPECT_EQ(invariants.broken(changed ? pressed : 0, said.value(0).toStdString()), "");
+    EXPECT_EQ(fault(ring), "");
+    for (int i = 0; i < all->childCount(); ++i) {
+      const QString name = all->child(i)->text(QAccessible::Name);
+      EXPECT_TRUE(all->child(i)->state().invisible || knownNames[all->child(i)->object()] == name)
+          << "not told of " << name.toStdString();
+    }
+    EXPECT_EQ(window.windowTitle(), QString::fromStdString(game.form.caption()));
+    EXPECT_LE(said.size(), 1);
+    EXPECT_FALSE(pressed != 0 && roleOf(pressed) != CellRole::hole && said.isEmpty());
+    ASSERT_FALSE(HasFailure()) << said.join("|").toStdString();
+  }
 }
 
 }  // namespace tessoro::test

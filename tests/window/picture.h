@@ -15,37 +15,40 @@ struct PictureTest : WindowTest {
     return {it.topLeft() * scale, (it.bottomRight() + QPoint(1, 1)) * scale - QPoint(1, 1)};
   }
   /// The client area as it has been painted, bit by bit, on the screen.
-  QImage screen() const {
+  QImage screen(const QWidget& client) const {
     QEvent now(QEvent::UpdateRequest);  // which the toolkit would send some milliseconds later
-    QApplication::sendEvent(&window, &now);
-    const auto& all = dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
-    const QPoint origin = view.mapTo(&window, QPoint()) * scale;
+    QApplication::sendEvent(client.window(), &now);
+    const auto& all = dynamic_cast<QImage&>(*client.backingStore()->paintDevice());
+    const QPoint origin = client.mapTo(client.window(), QPoint()) * scale;
     QImage image = all.copy({origin, QPoint(all.width(), all.height()) - QPoint(1, 1)});
     image.setDevicePixelRatio(1);
     return image;
   }
   /// Where the screen first differs from what the controls say, with or without a ring around the
   /// focus, in device-independent pixels; empty if it does not.
-  QString fault(bool ring) const {
-    const QImage shown = screen();
-    QImage expected = shown;
+  QString fault(bool ring) { return fault(game.form, view, ring); }
+  QString fault(const platform::Form& form, const QWidget& client, bool ring) {
+    shown_ = screen(client);
+    QImage expected = shown_;
     QPainter painter(&expected);
-    painter.fillRect(shown.rect(), colour(platform::buttonFace));
-    for (const auto& it : game.form.controls) drawAt({}, it, painter);
+    painter.fillRect(shown_.rect(), colour(platform::buttonFace));
+    for (const auto& it : form.controls) drawAt({}, it, painter);
     const int line = qRound(scale);
     QRect rect = ring ? pixels(QApplication::focusWidget()->geometry()) : QRect();
     for (const QColor it : {Qt::black, Qt::yellow, Qt::yellow, Qt::black}) {
       if (ring) outline(painter, rect, line, it);
       rect -= QMargins(line, line, line, line);
     }
-    if (shown == expected) return "";
+    if (shown_ == expected) return "";
     QPoint at;
-    const auto isSame = [&] { return shown.pixel(at) == expected.pixel(at); };
-    for (int i = 0; isSame(); ++i) at = {i % shown.width(), i / shown.width()};
+    for (int i = 0; shown_.pixel(at) == expected.pixel(at); ++i)
+      at = {i % shown_.width(), i / shown_.width()};
     return QDebug::toString(at / scale);
   }
 
  private:
+  QImage shown_;
+
   static QRect rectOf(const platform::Place& it) {
     return {QPoint(it.left, it.top) / 15, QSize(it.width, it.height) / 15};
   }
@@ -78,7 +81,9 @@ struct PictureTest : WindowTest {
       const QRect rect = pixels(place);
       if constexpr (std::is_same_v<Kind, Cell>) {
         painter.fillRect(rect, colour(it.borderbottom));
-        painter.fillRect(rect.adjusted(0, 0, -line, -line), colour(it.bordertop));
+        painter.fillRect(rect.adjusted(0, 0, 0, -line), colour(it.borderright));
+        painter.fillRect(rect.adjusted(0, 0, -line, -line), colour(it.borderleft));
+        painter.fillRect(rect.adjusted(line, 0, -line, -line), colour(it.bordertop));
         painter.fillRect(rect - QMargins(line, line, line, line), colour(it.backcolor()));
         QColor ink = colour(it.forecolor());
         if (it.isButton() && !it.enabled()) {  // two fifths of the way to the background
@@ -109,6 +114,10 @@ struct PictureTest : WindowTest {
         outline(painter, rect.adjusted(line, line, 0, 0), line, colour(platform::highlight3D));
         outline(painter, rect.adjusted(0, 0, -line, -line), line, colour(platform::shadow3D));
         for (const auto& inner : it.controls) drawAt(place.topLeft(), inner, painter);
+      } else {  // what the toolkit draws; text stands in the middle of an empty rim
+        constexpr int rim = std::is_same_v<Kind, platform::TextBox> ? 12 : 0;
+        const QRect own = rect - QMargins(rim, rim, rim, rim) * scale;
+        painter.drawImage(own, shown_, own);
       }
     };
     std::visit([&](const auto* it) { drawOne(*it); }, control);

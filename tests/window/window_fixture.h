@@ -54,7 +54,12 @@ struct WindowTest : testing::Test {
     game.startUp.Form_Load();
     settle();
   }
-  ~WindowTest() override { theDesktop->close(); }
+  ~WindowTest() override {
+    theDesktop->close();
+    // Nobody listens any more.
+    for (auto* it : {&game.form.caption, &game.form.SolveMx.caption, &cell(17).caption}) *it = "!";
+    cell(17).SetFocus();
+  }
 
   /// Has all events processed, also those that others bring about.
   static void settle() {

@@ -1,8 +1,9 @@
-#include "window_fixture.h"
+#include "app/about_form.h"
+#include "picture.h"
 
 namespace tessoro::test {
 
-TEST_F(WindowTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
+TEST_F(PictureTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
   const std::map<QChar, const Cell*> places{
       {'b', &game.form.NewPuz}, {'h', &cell(9)}, {'n', &cell(17)}, {'s', &cell(0)}};
   // Mouse buttons, + pressed or - released, on "New Puzzle", a hole, a number or out of the window.
@@ -17,18 +18,30 @@ TEST_F(WindowTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
   settle();
   view.repaint();
   const long drawn = view.drawnControls();
-  click(cell(17));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return view.drawnControls() > drawn; }));
-  EXPECT_EQ(view.drawnControls(), drawn + 1);
-  click(game.form.NewPuz);
-  EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
+  click(cell(18));
+  screen(view);
+  for (const auto* it : {"*", "+"}) cell(18).caption = it;
+  settle();
+  screen(view);
+  EXPECT_EQ(view.drawnControls(), drawn + 1) << "not cell 19, which lies over its edge";
+  std::vector<double> facts;
+  cell(17).mouseDown = [&](const platform::MousePress& it) {
+    facts.insert(facts.end(), {static_cast<double>(it.button), it.shift * 1.0, it.x, it.y});
+  };
+  const QPoint at = inWindow(cell(17)) + QPoint(1, 0);
+  const auto all = Qt::ShiftModifier | Qt::ControlModifier | Qt::AltModifier;
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
+  QTest::mouseClick(window.windowHandle(), Qt::BackButton, all, at);
+  EXPECT_EQ(facts, std::vector<double>({1, 0, 240, 225, 8, 7, 240, 225}));
 }
 
 TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInTheMiddle) {
   const QSize size = window.size();
   EXPECT_EQ(view.size(), QSize(302, 310));
-  EXPECT_TRUE(window.windowFlags().testFlag(Qt::WindowMinimizeButtonHint) &&
-              window.minimumSize() == window.maximumSize() && !window.windowIcon().isNull());
+  EXPECT_EQ(window.windowFlags(), Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                      Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                                      Qt::WindowCloseButtonHint);
+  EXPECT_EQ(window.windowIcon().availableSizes(), QList<QSize>({{32, 32}, {64, 64}, {128, 128}}));
   const auto maximise = [&] {  // as the toolkit's own title bars do; it takes any size from then on
     window.windowHandle()->setWindowStates(Qt::WindowMaximized);
     settle();
@@ -46,8 +59,7 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   ulong time = 1UL << 30;
   const auto send = [&](QWidget& to, const QString& steps) {
     const std::array keys{Qt::Key_Space, Qt::Key_Return, Qt::Key_Alt, Qt::Key_Right, Qt::Key_J};
-    // Keys, + pressed or - released, = at the time of the step before, as the X server repeats
-    // them.
+    // Keys, + pressed or - released, = at the time of the step before, as X servers repeat them.
     for (const QString& step : steps.split(' ')) {
       const auto type = step[1] == '+' ? QEvent::KeyPress : QEvent::KeyRelease;
       const int key = keys[QString("SRA>J").indexOf(step[0])];
@@ -61,8 +73,15 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   EXPECT_EQ(caption(17), "2") << "held down";
   send(window, ">+ >- >+= >- S+ S-");
   EXPECT_EQ(caption(18) + caption(19), "1") << "arrows go on";
-  send(window, "A+ J+ J- A-");
+  send(window, "A+ J+ J- A- A+");
+  click(cell(19));
+  send(window, "A-");
   EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "Alt was for something else";
+  for (int i = 0; i < 4; ++i) {
+    QKeyEvent copy(i % 2 == 0 ? QEvent::KeyPress : QEvent::KeyRelease, Qt::Key_Space, {});
+    QApplication::sendEvent(window.windowHandle(), &copy);
+  }
+  EXPECT_EQ(caption(19), "4") << "a screen reader passes on copies, which do not tell their time";
 
   choose("Set a Puzzle for computer to solve");
   click(cell(17));
@@ -85,7 +104,39 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   EXPECT_EQ(messages, std::vector<QString>{"closed"});
 }
 
-TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
+/// These run again at each scale factor, as set by the environment.
+using AppearanceTest = PictureTest;
+
+/// Borders are the theme's, or the nearest shades that stand out as much as the usual theme's.
+TEST_F(AppearanceTest, BordersStandOutInEveryThemeAndTextWhileABoxIsOpen) {
+  click(cell(17));
+  cell(17).borderleft = platform::palette[9];
+  cell(17).borderright = platform::palette[12];
+  game.form.Solveit.Visible = true;  // disabled, and in front of the other
+  QWidget box;
+  box.show();
+  box.activateWindow();
+  settle();
+  EXPECT_FALSE(view.isActiveWindow());
+  // Themes' button face, highlight and shadow, and a button's upper and lower border with them.
+  for (const auto& [face, highlight, shadow, top, bottom] :
+       std::vector<std::array<QRgb, 5>>{{0xd8e8b0, 0xe0f0b8, 0xb8c890, 0xecf4d9, 0x8e9974},
+                                        {0x0a2a5f, 0x10306a, 0x081c40, 0x5a6f93, 0x4e658c},
+                                        {0xf0e0d0, 0xfff8f0, 0x907860, 0xfff8f0, 0x907860}}) {
+    QPalette theme{QColor(face)};
+    theme.setColor(QPalette::Light, highlight);
+    theme.setColor(QPalette::Dark, shadow);
+    theme.setColor(QPalette::WindowText, 0x203060);
+    theme.setColor(QPalette::Inactive, QPalette::WindowText, face);
+    window.setPalette(theme);
+    const QImage image = screen(view);
+    EXPECT_EQ(image.pixel(QPoint(147, 272) * scale), QColor(top).rgb());
+    EXPECT_EQ(image.pixel(QPoint(147, 293) * scale - QPoint(0, 1)), QColor(bottom).rgb());
+  }
+  EXPECT_EQ(fault(false), "");
+}
+
+TEST_F(AppearanceTest, TheAboutBoxShowsItsControlsAndClosesInItsThreeWays) {
   int shown = 0;
   onModal = [&](QWidget* box) {
     auto* text = box->findChild<QTextEdit*>();
@@ -95,56 +146,21 @@ TEST_F(WindowTest, TheAboutBoxClosesInItsThreeWays) {
     EXPECT_NEAR(text->font().pointSizeF() * text->logicalDpiY(), 7.8 * 96, 0.1);
     EXPECT_EQ(box->focusWidget()->font().toString(), text->font().toString());
     EXPECT_EQ(box->focusWidget()->geometry(), QRect(277, 40, 34, 25));
+    settle();
+    EXPECT_EQ(fault(AboutForm(), *box->findChild<qt::FormView*>(), false), "");
     if (++shown == 1) return QTest::keyClick(box, Qt::Key_Return);
+    for (auto* it : box->findChildren<QWidget*>()) it->setFocus();
     if (shown == 3) return void(box->close());
     QTest::mousePress(box->windowHandle(), Qt::RightButton, {}, text->geometry().center());
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "not the text's own menu";
   };
+  key(Qt::Key_Tab);
   for (int i = 0; i < 3; ++i) {
     menu.at("About")->trigger();
     EXPECT_EQ(shown, i) << "a client that chooses it does not wait";
     settle();
   }
   EXPECT_EQ(shown, 3);
-}
-
-TEST_F(WindowTest, HelpIsReadBesideTheGame) {
-  choose("Help");
-  auto* help = &dynamic_cast<qt::HelpWindow&>(*QApplication::activeWindow());
-  auto* text = help->findChild<QTextBrowser*>();
-  const int top = text->verticalScrollBar()->value();
-  const auto* bar = help->findChild<QToolBar*>();
-  EXPECT_FALSE(bar->actions().at(1)->isEnabled() || bar->isMovable() ||
-               help->windowIcon().isNull());
-  EXPECT_EQ(bar->actions().at(1)->text(), "Back");
-  onModal = [&](QWidget* box) {
-    for (QAction* way : bar->actions()) {
-      for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(help->windowHandle(), it);
-      EXPECT_GT(text->verticalScrollBar()->value(), top) << "a link leads on";
-      way->trigger();
-      EXPECT_EQ(text->verticalScrollBar()->value(), top) << way->text().toStdString();
-    }
-    box->close();
-  };
-  choose("About");
-  help->close();
-  choose("Help");
-  EXPECT_EQ(QApplication::activeWindow(), help);
-
-  const QTemporaryDir folder;
-  QFile file(folder.filePath("some.hlp"));
-  const QString said = "The help file \"some.hlp\" ";
-  for (const auto& [content, shown] :
-       std::map<QByteArray, QString>{{{}, said + "cannot be found."},
-                                     {" \n", said + "is empty."},
-                                     {"\x89PNG", said + "is damaged: it is not a text."},
-                                     {"<h1>Help</h1>", "Help"},
-                                     {"<h1>New</h1>", "New"}}) {
-    if (!content.isNull() && file.open(QIODevice::WriteOnly)) file.write(content);
-    file.close();
-    help->showContents(file.fileName());
-    EXPECT_EQ(text->toPlainText(), shown);
-  }
 }
 
 }  // namespace tessoro::test
