@@ -86,13 +86,10 @@ TEST_F(AccessibilityTest, TheBoardReadsAsWhatItIs) {
 
 TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   click(cell(17));
-  EXPECT_EQ(heard("say"),
-            QStringList("1, no line has a value yet, corners to get right: top right, bottom "
-                        "left, bottom right"));
+  EXPECT_TRUE(heard("say").join("").startsWith("1, no line has a value yet, corners to get right"));
   act(cell(17), "Press");
   EXPECT_TRUE(told.contains("say 2"));
-  EXPECT_TRUE(told.contains((announces ? "Focus" : "NameChanged") + QString(" 2, row 3 column 3")))
-      << "newer screen readers would read out a new name of the focus";
+  EXPECT_TRUE(told.contains((announces ? "Focus" : "NameChanged") + QString(" 2, row 3 column 3")));
   at(cell(17))->actionInterface()->doAction("Decrease");
   EXPECT_EQ(caption(17), "2") << "a client does not wait";
   for (const auto* it : {"one", "two"}) theDesktop->announce(it);
@@ -104,14 +101,17 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   EXPECT_TRUE(told.contains("ObjectHide New Puzzle") && told.contains("ObjectShow Solve Puzzle"));
   EXPECT_TRUE(told.contains("ObjectHide top left correct"));
   EXPECT_EQ(heard("say"), QStringList("Set each corner to its number, then press Solve Puzzle"));
+  act(cell(17), "Press");
+  EXPECT_TRUE(told.contains("say Only corners are set in this mode") &&
+              told.filter("Focus").isEmpty());
   EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
-  EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.contains("-"));
+  EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.size() != 8 || menu.contains("-"));
   for (const auto opening : {Qt::Key_F10, Qt::Key_Alt}) {
     key(opening);
     const auto& popup = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
     EXPECT_EQ(popup.activeAction(), menu.at("Set a Puzzle for computer to solve"));
     key(Qt::Key_Escape);
-    EXPECT_EQ(focusedCell(), 17);
+    EXPECT_EQ(fault(true), "") << "back on the cell, and by keys";
   }
   key(Qt::Key_Tab);
   choose("Set a Puzzle for computer to solve");
@@ -119,15 +119,15 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
 }
 
 TEST_F(AccessibilityTest, KeysLeadThroughTheGrid) {
+  QString visited = QString::number(focusedCell()) + ' ';
   click(cell(17));
-  QString visited;
   for (const QString& way :
        QString("Down Right Up Left End Home Ctrl+End Ctrl+Home Tab Up Ctrl+Down Left").split(' ')) {
     const QKeyCombination it = QKeySequence(way)[0];
     key(it.key(), it.keyboardModifiers());
     visited += QString::number(focusedCell()) + ' ';
   }
-  EXPECT_EQ(visited, "24 26 19 18 21 15 49 1 0 1 1 1 ");
+  EXPECT_EQ(visited, "1 24 26 19 18 21 15 49 1 0 1 1 1 ");
   EXPECT_EQ(heard("say").filter("board"), QStringList("Edge of the board"));
 }
 
@@ -161,11 +161,13 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   choose("Help");
   EXPECT_EQ(told.filter("say ").join(""),
             "say Tessoro. The arrow keys go through the text, Tab to its links, Escape closes it");
-  EXPECT_EQ(QApplication::activeWindow(), help);
   EXPECT_TRUE(heard("Focus").contains("Help"));
   for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) key(it);
   EXPECT_EQ(heard("say"), QStringList({"the keys, link", "Playing by keys and by ear"}));
   EXPECT_EQ(text->textCursor().block().text().simplified(), "Playing by keys and by ear");
+  QStyleHintReturnVariant mark;
+  text->style()->styleHint(QStyle::SH_TextControl_FocusIndicatorTextCharFormat, {}, text, &mark);
+  EXPECT_EQ(mark.variant.value<QTextFormat>().background(), QApplication::palette().highlight());
   EXPECT_TRUE(text->textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard)) << "a caret";
   key(Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(heard("say"), QStringList("the keys, link")) << "where it was left";
@@ -188,7 +190,8 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
     EXPECT_EQ(text->toPlainText(), shown);
   }
   help->showContents(folder.path());
-  EXPECT_TRUE(text->toPlainText().endsWith("cannot be read."));
+  EXPECT_EQ(text->toPlainText(),
+            "The help file \"" + QDir(folder.path()).dirName() + "\" cannot be read.");
 }
 
 TEST_F(AccessibilityTest, TheLastMoveIsReadOutWithTheBoxAndTheNextPuzzleAtOnce) {

@@ -28,10 +28,9 @@ struct PrintTest : WindowTest {
   const std::function<void(QWidget*)> answer = onModal;
 
   /// What the program says on standard output.
-  static QString output(const QString& program, const QStringList& arguments,
-                        const QByteArray& input = {}) {
+  static QString output(const QString& program, const QStringList& with, QByteArray input = {}) {
     QProcess process;
-    process.start(program, arguments);
+    process.start(program, with);
     process.write(input);
     process.closeWriteChannel();
     process.waitForFinished();

@@ -37,7 +37,9 @@ TEST_F(PictureTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
 
 TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInTheMiddle) {
   const QSize size = window.size();
-  EXPECT_EQ(view.size(), QSize(302, 310));
+  EXPECT_EQ(window.centralWidget()->size(), QSize(302, 310));
+  EXPECT_EQ(QGuiApplication::desktopFileName() + QFont::substitute("MS Sans Serif"),
+            "tessoro" + QApplication::font().family().toLower());
   EXPECT_EQ(window.windowFlags(), Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                       Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                       Qt::WindowCloseButtonHint);
@@ -120,8 +122,8 @@ TEST_F(AppearanceTest, BordersStandOutInEveryThemeAndTextWhileABoxIsOpen) {
   EXPECT_FALSE(view.isActiveWindow());
   // Themes' button face, highlight and shadow, and a button's upper and lower border with them.
   for (const auto& [face, highlight, shadow, top, bottom] :
-       std::vector<std::array<QRgb, 5>>{{0xd8e8b0, 0xe0f0b8, 0xb8c890, 0xecf4d9, 0x8e9974},
-                                        {0x0a2a5f, 0x10306a, 0x081c40, 0x5a6f93, 0x4e658c},
+       std::vector<std::array<QRgb, 5>>{{0x9390ec, 0x9592ee, 0x8582de, 0xa29fee, 0x58568d},
+                                        {0x083c01, 0x0c4005, 0x002600, 0x5c7f58, 0x4d7248},
                                         {0xf0e0d0, 0xfff8f0, 0x907860, 0xfff8f0, 0x907860}}) {
     QPalette theme{QColor(face)};
     theme.setColor(QPalette::Light, highlight);
@@ -140,7 +142,7 @@ TEST_F(AppearanceTest, TheAboutBoxShowsItsControlsAndClosesInItsThreeWays) {
   int shown = 0;
   onModal = [&](QWidget* box) {
     auto* text = box->findChild<QTextEdit*>();
-    EXPECT_EQ(box->windowTitle(), "About Tessoro");
+    EXPECT_TRUE(box->windowTitle() == "About Tessoro" && !box->windowIcon().isNull());
     EXPECT_EQ(box->maximumSize(), QSize(317, 97));
     EXPECT_TRUE(text->isReadOnly() && text->document()->size().height() <= text->height());
     EXPECT_NEAR(text->font().pointSizeF() * text->logicalDpiY(), 7.8 * 96, 0.1);
