@@ -104,12 +104,11 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
   act(cell(17), "Press");
   EXPECT_TRUE(told.contains("say Only corners are set in this mode") &&
               told.filter("Focus").isEmpty());
-  EXPECT_EQ(menu.at("Set a Puzzle for computer to solve")->text(), "End computer solution mode");
   EXPECT_FALSE(menu.at("Start a Solution")->isEnabled() || menu.size() != 8 || menu.contains("-"));
   for (const auto opening : {Qt::Key_F10, Qt::Key_Alt}) {
     key(opening);
     const auto& popup = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
-    EXPECT_EQ(popup.activeAction(), menu.at("Set a Puzzle for computer to solve"));
+    EXPECT_EQ(popup.activeAction()->text(), "End computer solution mode");
     key(Qt::Key_Escape);
     EXPECT_EQ(fault(true), "") << "back on the cell, and by keys";
   }
@@ -142,7 +141,6 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
                help->windowIcon().isNull());
   EXPECT_EQ(help->windowTitle() + bar->windowTitle() + bar->actions().at(1)->text(),
             "Tessoro HelpNavigationBack");
-  EXPECT_EQ(help->size(), QSize(560, 620));
   onModal = [&](QWidget* box) {
     about = announces ? heard("say").join("") : box->accessibleDescription();
     for (QAction* way : bar->actions()) {

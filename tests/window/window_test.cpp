@@ -60,13 +60,14 @@ TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInT
 TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   ulong time = 1UL << 30;
   const auto send = [&](QWidget& to, const QString& steps) {
+    const std::array type{QEvent::KeyPress, QEvent::KeyRelease};
     const std::array keys{Qt::Key_Space, Qt::Key_Return, Qt::Key_Alt, Qt::Key_Right, Qt::Key_J};
     // Keys, + pressed or - released, = at the time of the step before, as X servers repeat them.
     for (const QString& step : steps.split(' ')) {
-      const auto type = step[1] == '+' ? QEvent::KeyPress : QEvent::KeyRelease;
       const int key = keys[QString("SRA>J").indexOf(step[0])];
       if (!step.endsWith('=')) ++time;
-      QWindowSystemInterface::handleKeyEvent(to.windowHandle(), time, type, key, {});
+      QWindowSystemInterface::handleKeyEvent(to.windowHandle(), time, type[step[1] == '-'], key,
+                                             {});
       settle();
     }
   };
@@ -97,6 +98,8 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
     since.start();
     send(*box, "S+ S-");
     EXPECT_TRUE(box->isVisible() || since.elapsed() >= 500) << "another key is down";
+    send(*box, "R- >+ >- R- R+=");
+    EXPECT_TRUE(box->isVisible()) << "a repeat";
     send(*box, "R- R+ R-");
     messages.push_back(box->isVisible() ? "open" : "closed");
     box->close();
