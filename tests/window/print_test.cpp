@@ -78,7 +78,6 @@ TEST_F(PrintTest, ThePageIsPrintedOrSavedAsPdf) {
       "print it again.";
   const std::string notSent =
       "TESSORO: The page could not be sent to the printer; it can be printed again.";
-  game.search.FindSolution();
   QDir::setCurrent(folder.path());
   EXPECT_EQ(print(), noPrinter) << "cancelling is no failure";
   output("touch", {"saved.pdf", "busy"});
