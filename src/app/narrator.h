@@ -34,27 +34,37 @@ class Narrator {
   /// What a press on the cell will have changed since now, or why it has not.
   Sentence outcomeOfPress(int cell) const;
 
-  // Why a key or a press did nothing: one on a disabled cell; one on the disabled button "Solve
-  // Puzzle"; a character that does not belong in cell 1..49, or on the button with 0; an arrow key
-  // at the edge of the board; the way to an empty cell where there is none.
+  /// Says why a press on the disabled cell 0..53 did nothing.
   void explainRefusal(int cell);
+  /// Says why a press on the disabled button "Solve Puzzle" did nothing.
   void explainDisabledSolveit();
+  /// Says what belongs in cell 1..49, or on a button with 0, after a character that does not.
   void explainTyping(int cell);
+  /// Says that an arrow key has reached the edge of the board.
   void explainEdge();
+  /// Says that there is no way to an empty cell, since there is none or the puzzle is over.
   void explainNoneEmpty();
 
-  // What the player has asked for: a row or column 1..7, the corners, the last sentence again.
+  /// Tells row 1..7, as the player has asked to hear.
   void tellRow(int row);
+  /// The same with column 1..7.
   void tellColumn(int column);
+  /// The same with the four corners.
   void tellCorners();
+  /// Tells the last sentence again, or the first puzzle where there has been none.
   void repeat();
 
-  // What there is to tell of the first puzzle, and the outcomes of the commands.
+  /// What there is to tell of the puzzle of the start; nothing if none was found.
   std::string firstPuzzle() const;
+  /// The outcome of "New Puzzle"; nothing if none was found.
   std::string newPuzzle() const;
+  /// The outcome of "Solve Puzzle"; nothing if there was none but a message box.
   std::string solvedPuzzle() const;
+  /// The outcome of "Start a Solution".
   std::string randomStart() const;
+  /// The outcome of "Show Solution".
   static std::string solutionShown();
+  /// The outcome of entering or leaving the mode in which puzzles are set.
   std::string modeSwitched() const;
 
  private:
@@ -68,6 +78,7 @@ class Narrator {
   };
 
   Heard heard() const;
+  /// What is heard of the board that was not so before, each part after a comma.
   std::string changesSince(const Heard& before) const;
   void say(const std::string& sentence);
 

@@ -25,9 +25,10 @@ std::string spokenCell(const Board& board, int cell);
 /// The names of the corners k = 1..4 of the board, "top left" and so on.
 std::string cornerName(int k);
 
-/// A row or column 1..7: "Row 3: 8 minus 2 times 3 is 2", with the target or "correct" where it
-/// ends in a corner; of one that is no line, what stands there.
+/// A row 1..7: "Row 3: 8 minus 2 times 3 is 2", with the target or "correct" where it ends in a
+/// corner; of one that is no line, what stands there.
 std::string spokenRow(const Board& board, int row);
+/// The same of column 1..7, from the top down.
 std::string spokenColumn(const Board& board, int column);
 
 /// The four corners: what each shows, and, once play has begun, that it is correct or its target.

@@ -26,8 +26,9 @@ class Board {
   /// The same for the grid without its four corners.
   void clearBetweenCorners();
 
-  /// Shows or hides the four outer corner cells, or the four smiling faces.
+  /// Shows or hides the four outer corner cells.
   void setOuterCornersVisible(bool visible);
+  /// The same with the four smiling faces.
   void setSmileysVisible(bool visible);
   /// Gives the board's four corners this background.
   void colourCorners(platform::Colour colour);

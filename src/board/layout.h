@@ -14,10 +14,11 @@ constexpr int gridSide = 7;
 constexpr int gridCells = gridSide * gridSide;
 constexpr int boardCells = 54;
 
-/// The row and the column of a cell of the grid, each 1..7.
+/// The row 1..7 of a cell of the grid.
 constexpr int rowOf(int cell) {
   return (cell - 1) / gridSide + 1;
 }
+/// The column 1..7 of a cell of the grid.
 constexpr int columnOf(int cell) {
   return (cell - 1) % gridSide + 1;
 }
@@ -48,6 +49,7 @@ constexpr std::string_view roleMap =
     "oooo";
 static_assert(roleMap.size() == boardCells);
 
+/// What cell 0..53 is for.
 constexpr CellRole roleOf(int cell) {
   return static_cast<CellRole>(roleMap[static_cast<unsigned>(cell)]);
 }

@@ -50,6 +50,7 @@ class CellPane final : public Control {
   /// The right button went down; the arguments are the shift state and the point.
   std::function<void(std::int16_t shift, double x, double y)> contextMenu;
 
+  /// Whether it is worked by clicks, as a button is; other cells take presses alone.
   bool isButton() const { return static_cast<bool>(click); }
 
   /// A mouse button went down on the cell.

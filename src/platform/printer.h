@@ -13,8 +13,9 @@ class Printer {
   Printer& operator=(const Printer&) = delete;
   virtual ~Printer() = default;
 
-  /// The typeface, in which every character is as wide as the next, and its size in points.
+  /// The typeface, in which every character is as wide as the next.
   virtual void setFontName(std::string_view name) = 0;
+  /// The size of the font in points.
   virtual void setFontSize(double points) = 0;
 
   /// Adds a line to the document.

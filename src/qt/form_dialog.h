@@ -10,6 +10,7 @@ namespace qt {
 /// A modal box that shows a form while the form is `Visible`.
 class FormDialog final : public QDialog {
  public:
+  /// The form has to outlive the box.
   FormDialog(platform::Form& form, QWidget* parent);
   ~FormDialog() override;
 

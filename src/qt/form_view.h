@@ -64,8 +64,11 @@ class FormView final : public QWidget {
   void add(platform::Frame* frame, const platform::Place& place);
   void add(platform::TextBox* box, const platform::Place& place);
   void add(platform::CommandButton* button, const platform::Place& place);
+  /// Notes that the item may have changed, and has it looked at soon.
   void markStale(std::size_t item);
+  /// Has `refreshStale` run once the handler that is running is done or yields.
   void refreshSoon();
+  /// Draws, shows and hides what has changed, and tells clients of it.
   void refreshStale();
   void hide(ControlWidget& widget);
   /// Has the item drawn again, where nothing in front of it covers it.
@@ -79,7 +82,9 @@ class FormView final : public QWidget {
   long drawnControls_ = 0;
 
   // The keys.
+  /// Makes it the control of the grid that Tab reaches.
   void setCurrent(ControlWidget* widget);
+  /// Moves the ring to where the focus is now, if the user works with the keys.
   void focusMoved();
   /// The next control of the grid in the direction, a step of one; none beyond the edge.
   ControlWidget* neighbour(const ControlWidget& of, QPoint direction) const;

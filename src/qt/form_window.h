@@ -14,10 +14,13 @@ class FormView;
 /// A window that shows a form: its title, icon, menu bar and client area.
 class FormWindow final : public QMainWindow {
  public:
+  /// The form has to outlive the window.
   explicit FormWindow(platform::Form& form);
   ~FormWindow() override;
 
+  /// The client area.
   FormView& view() const { return *view_; }
+  /// Has sentences spoken in this window.
   Announcer& announcer() { return announcer_; }
 
  protected:
@@ -27,6 +30,7 @@ class FormWindow final : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  /// Opens the first menu at its first enabled item, as by the keyboard.
   void openMenu();
   void addMenu(QMenu& menu, const platform::MenuItem& item);
 

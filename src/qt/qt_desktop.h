@@ -44,6 +44,7 @@ class QtDesktop final : public platform::Desktop {
   /// Shows the form as the program's main window, until it is closed, which has to be before the
   /// form's end. A screen reader speaks the greeting once the window has come up.
   FormWindow& show(platform::Form& form, std::string_view greeting);
+  /// Closes the main window; the form is told nothing.
   void close();
   /// Shows the form and handles its events until the program ends; the program's exit status.
   int run(platform::Form& form, std::string_view greeting);
