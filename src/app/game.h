@@ -24,6 +24,7 @@ namespace tessoro {
 /// of procedures that work on them, wired to the window's events.
 class Game {
  public:
+  /// Lays out the main window. The first puzzle comes with `startUp`.
   Game(platform::Desktop& desktop, Digits& digits);
 
   Form1 form;

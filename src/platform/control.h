@@ -63,13 +63,13 @@ class Label final : public Control {
 /// A picture on the button-face colour, centred in its place and drawn without a border.
 class PictureBox final : public Control {
  public:
-  const Picture* picture = nullptr;
+  const Picture* picture = nullptr;  ///< none, and only the background is drawn
 };
 
 /// Lines of text that can be read but not changed, centred, on the button-face colour.
 class TextBox final : public Control {
  public:
-  std::string text;
+  std::string text;  ///< its lines, each but the last with a newline at its end
   Font font;
   /// Any mouse button went down over the text.
   std::function<void()> mouseDown;
@@ -80,12 +80,14 @@ class CommandButton final : public Control {
  public:
   std::string caption;
   Font font;
+  /// It was pressed and released, by the mouse or the keys.
   std::function<void()> click;
 };
 
 class CellPane;
 class Frame;
 
+/// A control, whichever it is, as a form or a frame refers to it.
 using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
 
 /// The controls that a form or a frame holds, from the one farthest back to the one in front.

@@ -21,6 +21,7 @@ class ControlWidget final : public QWidget {
 
   /// In the form's client area, twips.
   const platform::Place& place() const { return place_; }
+  /// What assistive technology is to be told of the control.
   const platform::Accessible& accessible() const { return base(control_).accessible; }
   /// Whether it is a disabled cell. The widget itself is enabled all the same: what is disabled can
   /// be read as well, and says why it does nothing.
@@ -40,7 +41,9 @@ class ControlWidget final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  /// Presses and releases a mouse button on the control at once.
   void press(platform::MouseButton button);
+  /// Gives the cell the character that was typed; whether it means anything there.
   bool type(const QString& text, bool shift);
 
   DrawnControl control_;

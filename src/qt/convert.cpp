@@ -96,7 +96,6 @@ QImage toQImage(const platform::Picture& picture, int size) {
   for (int y = 0; y < own; ++y) {
     for (int x = 0; x < own; ++x) image.setPixel(x, y, pixelColour(picture.rows[y][x]));
   }
-  if (size % own == 0) return image.scaled(size, size);
   const int larger = (size / own + 1) * own;
   return image.scaled(larger, larger)
       .scaled(size, size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

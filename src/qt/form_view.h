@@ -58,6 +58,7 @@ class FormView final : public QWidget {
     ControlWidget* widget = nullptr;  ///< none for what can be neither read nor pressed
   };
 
+  /// Adds the controls, whose places are measured from the top left of their holder.
   void addAll(const platform::Controls& controls, const platform::Place& holder);
   // Each adds a control at its place in the client area.
   void add(DrawnControl control, const platform::Place& place);
@@ -73,6 +74,7 @@ class FormView final : public QWidget {
   void hide(ControlWidget& widget);
   /// Has the item drawn again, where nothing in front of it covers it.
   void updateItem(std::size_t item);
+  /// Has the region drawn again, in device-independent pixels.
   void updateRegion(const QRegion& region);
 
   platform::Form& form_;

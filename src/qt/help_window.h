@@ -16,6 +16,7 @@ namespace qt {
 /// link to link.
 class HelpText final : public QTextBrowser {
  public:
+  /// `announcer` has spoken what the keys come to.
   HelpText(QWidget* parent, Announcer& announcer);
 
  protected:

@@ -21,6 +21,7 @@ namespace tessoro {
 /// Targets fix the corners (1, 1), (1, 4), (4, 1) and (4, 4).
 class SolutionAttempt {
  public:
+  /// Reads the targets of the state, and leaves the solution in it.
   SolutionAttempt(PuzzleState& state, Digits& digits);
   // Its views of texts are of its own.
   SolutionAttempt(const SolutionAttempt&) = delete;

@@ -97,7 +97,7 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
 
   choose("Set a Puzzle for computer to solve");
   EXPECT_TRUE(told.contains("Focus empty, row 3 column 3")) << "where the menu leaves it";
-  EXPECT_FALSE(told.filter(QRegularExpression("^StateChanged .*row 1 column 7")).isEmpty());
+  EXPECT_EQ(told.filter("StateChanged").filter("row 1").size(), 2);
   EXPECT_TRUE(told.contains("ObjectHide New Puzzle") && told.contains("ObjectShow Solve Puzzle"));
   EXPECT_TRUE(told.contains("ObjectHide top left correct"));
   EXPECT_EQ(heard("say"), QStringList("Set each corner to its number, then press Solve Puzzle"));
@@ -138,7 +138,7 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   const int top = text->verticalScrollBar()->value();
   const auto* bar = help->findChild<QToolBar*>();
   EXPECT_FALSE(bar->actions().at(1)->isEnabled() || bar->isMovable() ||
-               help->windowIcon().isNull());
+               help->windowIcon().isNull() || bar->contextMenuPolicy() != Qt::PreventContextMenu);
   EXPECT_EQ(help->windowTitle() + bar->windowTitle() + bar->actions().at(1)->text(),
             "Tessoro HelpNavigationBack");
   onModal = [&](QWidget* box) {
@@ -164,7 +164,8 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   EXPECT_EQ(heard("say"), QStringList({"the keys, link", "Playing by keys and by ear"}));
   EXPECT_EQ(text->textCursor().block().text().simplified(), "Playing by keys and by ear");
   QStyleHintReturnVariant mark;
-  text->style()->styleHint(QStyle::SH_TextControl_FocusIndicatorTextCharFormat, {}, text, &mark);
+  const auto hint = QStyle::SH_TextControl_FocusIndicatorTextCharFormat;
+  EXPECT_EQ(text->style()->styleHint(hint, nullptr, text, &mark), 1);
   EXPECT_EQ(mark.variant.value<QTextFormat>().background(), QApplication::palette().highlight());
   EXPECT_TRUE(text->textInteractionFlags().testFlag(Qt::TextSelectableByKeyboard)) << "a caret";
   key(Qt::Key_Left, Qt::AltModifier);
@@ -179,7 +180,7 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   for (const auto& [content, shown] : std::map<QByteArray, QString>{
            {{}, "The help file \"some.hlp\" cannot be found."},
            {" \n", "The help file \"some.hlp\" is empty."},
-           {"\x89PNG", "The help file \"some.hlp\" is damaged: it is not a text."},
+           {" \x89PNG", "The help file \"some.hlp\" is damaged: it is not a text."},
            {"<h1>Help</h1>", "Help"},
            {"<h1>New</h1>", "New"}}) {
     if (!content.isNull() && file.open(QIODevice::WriteOnly)) file.write(content);
@@ -187,6 +188,8 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
     help->showContents(file.fileName());
     EXPECT_EQ(text->toPlainText(), shown);
   }
+  qt::QtHelpViewer viewer({folder.path() + "/none", folder.path()});
+  EXPECT_TRUE(viewer.WinHelpA(game.form, "some.hlp", 3, 0));
   help->showContents(folder.path());
   EXPECT_EQ(text->toPlainText(),
             "The help file \"" + QDir(folder.path()).dirName() + "\" cannot be read.");

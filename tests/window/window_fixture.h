@@ -35,6 +35,7 @@ struct WindowTest : testing::Test {
     messages.push_back(box->windowTitle() + ": " + box->text());
     EXPECT_EQ(box->buttons().size(), 1 + box->text().contains(QRegularExpression("^Print|[?]$")));
     EXPECT_EQ(box->defaultButton(), box->buttons().first());
+    EXPECT_GE(box->width(), 206) << "has room for its title";
     const auto flags = Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
     EXPECT_EQ(box->windowFlags() & (Qt::WindowType_Mask | flags), Qt::Dialog | flags);
     box->buttons().first()->click();

@@ -33,6 +33,10 @@ TEST_F(PictureTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
   QTest::mouseClick(window.windowHandle(), Qt::BackButton, all, at);
   EXPECT_EQ(facts, std::vector<double>({1, 0, 240, 225, 8, 7, 240, 225}));
+  bool during = false;
+  QMetaObject::invokeMethod(&view, [&] { during = game.search.underWay(); }, Qt::QueuedConnection);
+  game.form.NewPuz.click();
+  EXPECT_TRUE(during) << "the window goes on while a puzzle is made";
 }
 
 TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInTheMiddle) {
@@ -108,6 +112,11 @@ TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   since.start();
   click(game.form.Solveit);
   EXPECT_EQ(messages, std::vector<QString>{"closed"});
+  onModal = [&](QWidget* box) {
+    send(*box, "S+ S-");
+    box->close();
+  };
+  choose("About");
 }
 
 /// These run again at each scale factor, as set by the environment.
