@@ -35,8 +35,7 @@ TEST_F(GameTest, TheGrandTotalTakesTheFirstPairsThatFit) {
   }
   std::string taken;
   for (std::size_t first = 1; first <= 9; ++first) {
-    attempt.RowPairValue.fill(10);  // equal, but no digit
-    attempt.ColPairValue.fill(10);
+    attempt.RowPairValue = attempt.ColPairValue = {};  // equal, but no digit
     for (std::size_t k = first; k <= 9; ++k) attempt.RowPairValue[k] = 9;
     attempt.ColPairValue[10 - first] = 9;
     attempt.MatchGrandTotal();
