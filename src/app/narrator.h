@@ -77,9 +77,11 @@ class Narrator {
     bool begun = false;                              ///< the results have been worked out
   };
 
+  /// What is heard of the board as it stands.
   Heard heard() const;
   /// What is heard of the board that was not so before, each part after a comma.
   std::string changesSince(const Heard& before) const;
+  /// Has the sentence announced, if there is one and no search is under way.
   void say(const std::string& sentence);
 
   const Form1& form_;

@@ -22,8 +22,11 @@ class KeyGuard final : public QObject {
   std::function<void()> keptFromBox;
 
  private:
+  /// Whether a key that is held down has been pressed again by the keyboard itself.
   bool isRepeat(const QKeyEvent& event) const;
+  /// Whether the key may have been meant for what was there before the box.
   bool isTooEarly(const QKeyEvent& event) const;
+  /// Keeps in mind which keys are down, and which came up last.
   void keep(const QKeyEvent& event);
 
   QHash<quint32, QDeadlineTimer> held_;  ///< till when a key counts as down

@@ -53,6 +53,7 @@ class QtDesktop final : public platform::Desktop {
   Answer showMessageBox(std::string_view text, Buttons buttons) override;
 
  private:
+  /// The toolkit's application; ends the program where it cannot be had.
   std::unique_ptr<QApplication> makeApplication();
 
   Program program_;

@@ -156,6 +156,7 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   EXPECT_TRUE(about.endsWith(
       "Tessoro, written by the Tessoro developers. tessoro@example.org. Version 1.0"));
   help->close();
+  EXPECT_TRUE(announces || help->findChild<QWidget*>("notification")->isHidden());
   heard("");
   choose("Help");
   EXPECT_EQ(told.filter("say ").join(""),

@@ -95,6 +95,7 @@ struct WindowTest : testing::Test {
     const QWidget* active = QApplication::activeWindow();
     QWindow* to = (active == nullptr ? &window : active)->windowHandle();
     for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      QApplication::postEvent(to, new QEvent(QEvent::User));  // something always goes on
       QWindowSystemInterface::handleKeyEvent(to, ++time, type, key, modifiers, text);
       settle();
     }
