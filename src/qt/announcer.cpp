@@ -42,7 +42,7 @@ void say(QWidget& window, const QString& sentence) {
     auto* bar = new QStatusBar(&window);
     notification = new QWidget(bar);
     notification->setObjectName(notificationName);
-    bar->resize(0, 0);
+    bar->setGeometry({});
     bar->show();
   }
   notification->hide();

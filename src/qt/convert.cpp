@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <initializer_list>
 
@@ -15,10 +14,8 @@ QColor plainColour(platform::Colour colour) {
 }
 
 QRgb pixelColour(char pixel) {
-  if (pixel == '.') return qRgba(0, 0, 0, 0);
-  unsigned index = 0;
-  std::from_chars(&pixel, &pixel + 1, index, 16);
-  return plainColour(platform::palette[index]).rgb();
+  if (pixel == '.') return QColor(Qt::transparent).rgba();
+  return plainColour(platform::palette[std::string_view("0123456789ABCDEF").find(pixel)]).rgb();
 }
 
 /// The relative luminance of the colour on the screen, 0 to 1, and 0.05 for what the screen

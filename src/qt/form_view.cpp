@@ -204,8 +204,7 @@ void FormView::paintEvent(QPaintEvent* event) {
     pieces.push_back({&item, rect, region});
   }
   const QPalette colours = boardPalette(palette());
-  painter.setClipRegion(left);
-  painter.fillRect(left.boundingRect(), toQColor(platform::buttonFace, colours));
+  for (const QRect& rect : left) painter.fillRect(rect, toQColor(platform::buttonFace, colours));
   for (const Piece& piece : pieces) {
     painter.setClipRegion(piece.region);
     drawControl(piece.item->control, piece.item->look,
@@ -233,7 +232,6 @@ void FormView::focusMoved() {
   const ControlWidget* ringed =
       window()->testAttribute(Qt::WA_KeyboardFocusChange) ? focused : nullptr;
   const ControlWidget* before = std::exchange(ringed_, ringed);
-  if (ringed == before) return;
   // The ring lies over what covers its control, too.
   for (const ControlWidget* widget : {before, ringed}) {
     if (widget != nullptr) updateRegion(widget->geometry());

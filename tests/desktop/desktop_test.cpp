@@ -40,8 +40,7 @@ struct DesktopTest : testing::Test {
       window = xdotool("search --onlyvisible --name ^Puzzle\\sNumber\\s\\s1$");
       return !window.isEmpty();
     })) << "the window is titled with the first puzzle's number";
-    ASSERT_TRUE(eventually([&] { return pictureOf(49).pixel(3, 3) == qRgb(0, 128, 0); }))
-        << "it is drawn";
+    ASSERT_TRUE(eventually([&] { return colourOf(49) == qRgb(0, 128, 0); })) << "it is drawn";
   }
 
   QImage picture() const {
@@ -51,25 +50,17 @@ struct DesktopTest : testing::Test {
   QRect rectOf(const platform::Place& place) const {
     return {4 + place.left / 15, picture().height() - 306 + place.top / 15, 30, 30};
   }
-  QImage pictureOf(int cell) const { return picture().copy(rectOf(placeOf(cell))); }
-  QImage digitOf(int cell) const { return pictureOf(cell).copy(8, 8, 14, 14); }
+  QRgb colourOf(int cell) const { return picture().copy(rectOf(placeOf(cell))).pixel(3, 3); }
   void press(QPoint at) const {
     xdotool(QString("mousemove --window %1 %2 %3 click 1").arg(window).arg(at.x()).arg(at.y()));
   }
 };
 
 TEST_F(DesktopTest, PressesMoveAndExitEndsTheProgram) {
-  for (const int cell : {3, 3, 5}) {
-    const QImage before = digitOf(cell);
-    press(rectOf(placeOf(cell)).center());
-    ASSERT_TRUE(eventually([&] { return digitOf(cell) != before; }));
-  }
-  EXPECT_EQ(pictureOf(49).pixel(3, 3), qRgb(0, 0, 0));
-  EXPECT_EQ(picture().pixel(rectOf(smileyPlace(1)).center()), qRgb(255, 255, 0));
+  press(rectOf(placeOf(3)).center());
+  EXPECT_TRUE(eventually([&] { return colourOf(49) == qRgb(0, 0, 0); }));
   EXPECT_EQ(xdotool("search --class ^Tessoro$"), window) << "by which desktops know whose it is";
   xdotool("windowfocus --sync " + window);
-  xdotool("keydown space sleep 1.2 keyup space");  // the server repeats it from 0.66 s on
-  EXPECT_TRUE(eventually([&] { return digitOf(5) == digitOf(3); })) << "a key is one press";
   press({20, 10});
   EXPECT_TRUE(eventually([&] {
     xdotool("key Up Return");  // chooses the last command as soon as the menu is open

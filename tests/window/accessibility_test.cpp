@@ -112,6 +112,8 @@ TEST_F(AccessibilityTest, ClientsAreToldWhatChangesAndHearOneSentenceAPress) {
     key(Qt::Key_Escape);
     EXPECT_EQ(fault(true), "") << "back on the cell, and by keys";
   }
+  key(Qt::Key_Alt, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
   key(Qt::Key_Tab);
   choose("Set a Puzzle for computer to solve");
   EXPECT_EQ(heard("Focus").count("New Puzzle"), 1) << "it is where the other button was";
@@ -121,13 +123,14 @@ TEST_F(AccessibilityTest, KeysLeadThroughTheGrid) {
   QString visited = QString::number(focusedCell()) + ' ';
   click(cell(17));
   for (const QString& way :
-       QString("Down Right Up Left End Home Ctrl+End Ctrl+Home Tab Up Ctrl+Down Left").split(' ')) {
+       QString("Down Right Up Left End Home Ctrl+End Ctrl+Home Tab Left Up Ctrl+Down Left")
+           .split(' ')) {
     const QKeyCombination it = QKeySequence(way)[0];
     key(it.key(), it.keyboardModifiers());
     visited += QString::number(focusedCell()) + ' ';
   }
-  EXPECT_EQ(visited, "1 24 26 19 18 21 15 49 1 0 1 1 1 ");
-  EXPECT_EQ(heard("say").filter("board"), QStringList("Edge of the board"));
+  EXPECT_EQ(visited, "1 24 26 19 18 21 15 49 1 0 0 1 1 1 ");
+  EXPECT_EQ(heard("say").filter("Edge of the board").size(), 2);
 }
 
 TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
@@ -142,7 +145,9 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
                help->size() != QSize(560, 620));
   EXPECT_EQ(help->windowTitle() + bar->windowTitle() + bar->actions().at(1)->text(),
             "Tessoro HelpNavigationBack");
+  QElapsedTimer chosen;
   onModal = [&](QWidget* box) {
+    EXPECT_GE(chosen.elapsed(), 90) << "a key is taken in before what it brings about";
     about = announces ? heard("say").join("") : box->accessibleDescription();
     for (QAction* way : bar->actions()) {
       for (const auto it : {Qt::Key_Tab, Qt::Key_Return}) QTest::keyClick(help->windowHandle(), it);
@@ -152,6 +157,7 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
     }
     box->close();
   };
+  chosen.start();
   choose("About");
   EXPECT_TRUE(about.endsWith(
       "Tessoro, written by the Tessoro developers. tessoro@example.org. Version 1.0"));
@@ -174,8 +180,9 @@ TEST_F(AccessibilityTest, AboutAndHelpAreReadOutAndHelpBesideAnyBox) {
   EXPECT_EQ(heard("say"), QStringList("the keys, link")) << "where it was left";
   for (int i = 0; i < 99 && help->focusWidget() == text; ++i) key(Qt::Key_Tab);
   EXPECT_TRUE(heard("Focus").contains("Contents"));
+  chosen.start();
   key(Qt::Key_Escape);
-  EXPECT_FALSE(help->isVisible());
+  EXPECT_FALSE(help->isVisible() || chosen.elapsed() < 90);
 
   const QTemporaryDir folder;
   QFile file(folder.filePath("some.hlp"));
