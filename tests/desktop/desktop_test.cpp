@@ -60,7 +60,6 @@ TEST_F(DesktopTest, PressesMoveAndExitEndsTheProgram) {
   press(rectOf(placeOf(3)).center());
   EXPECT_TRUE(eventually([&] { return colourOf(49) == qRgb(0, 0, 0); }));
   EXPECT_EQ(xdotool("search --class ^Tessoro$"), window) << "by which desktops know whose it is";
-  xdotool("windowfocus --sync " + window);
   press({20, 10});
   EXPECT_TRUE(eventually([&] {
     xdotool("key Up Return");  // chooses the last command as soon as the menu is open
