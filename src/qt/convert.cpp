@@ -93,7 +93,7 @@ QImage toQImage(const platform::Picture& picture, int size) {
   for (int y = 0; y < own; ++y) {
     for (int x = 0; x < own; ++x) image.setPixel(x, y, pixelColour(picture.rows[y][x]));
   }
-  const int larger = (size / own + 1) * own;
+  const int larger = (size + own - 1) / own * own;
   return image.scaled(larger, larger)
       .scaled(size, size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

@@ -232,6 +232,7 @@ void FormView::focusMoved() {
   const ControlWidget* ringed =
       window()->testAttribute(Qt::WA_KeyboardFocusChange) ? focused : nullptr;
   const ControlWidget* before = std::exchange(ringed_, ringed);
+  if (ringed == before) return;
   // The ring lies over what covers its control, too.
   for (const ControlWidget* widget : {before, ringed}) {
     if (widget != nullptr) updateRegion(widget->geometry());

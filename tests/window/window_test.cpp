@@ -3,7 +3,7 @@
 
 namespace tessoro::test {
 
-TEST_F(PictureTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
+TEST_F(PictureTest, TheMousePressesWhatItIsOverAndThatAloneIsRedrawn) {
   const std::map<QChar, const Cell*> places{
       {'b', &game.form.NewPuz}, {'h', &cell(9)}, {'n', &cell(17)}, {'s', &cell(0)}};
   // Mouse buttons, + pressed or - released, on "New Puzzle", a hole, a number or out of the window.
@@ -14,12 +14,13 @@ TEST_F(PictureTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
     QTest::mouseEvent(act, window.windowHandle(), button, {}, inWindow(*places.at(step[2])));
   }
   EXPECT_EQ(game.form.caption() + ": " + caption(17) + caption(0), "Puzzle Number  1: 1");
-  settle();
+  click(cell(18));
+  key(Qt::Key_Space);
   view.repaint();
   const long drawn = view.drawnControls();
-  click(cell(18));
+  key(Qt::Key_Space);
   screen(view);
-  for (const auto* it : {"*", "+"}) cell(18).caption = it;
+  for (const auto* it : {"+", "*"}) cell(18).caption = it;
   settle();
   screen(view);
   EXPECT_EQ(view.drawnControls(), drawn + 1) << "not cell 19, which lies over its edge";
@@ -32,13 +33,16 @@ TEST_F(PictureTest, AButtonTakesAPressAndAReleaseOnItselfAndIsRedrawnAlone) {
   QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
   QTest::mouseClick(window.windowHandle(), Qt::BackButton, all, at);
   EXPECT_EQ(facts, std::vector<double>({1, 0, 240, 225, 8, 7, 240, 225}));
+}
+
+TEST_F(WindowTest, ItGoesOnWhileAPuzzleIsMade) {
   bool during = false;
   QMetaObject::invokeMethod(&view, [&] { during = game.search.underWay(); }, Qt::QueuedConnection);
   game.form.NewPuz.click();
-  EXPECT_TRUE(during) << "the window goes on while a puzzle is made";
+  EXPECT_TRUE(during);
 }
 
-TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInTheMiddle) {
+TEST_F(WindowTest, ItStatesWhatItIsAndTakesBackBeingMaximised) {
   const QSize size = window.size();
   EXPECT_EQ(window.centralWidget()->size(), QSize(302, 310));
   EXPECT_EQ(QGuiApplication::desktopFileName() + QFont::substitute("MS Sans Serif"),
@@ -64,14 +68,13 @@ TEST_F(WindowTest, BeingMaximisedIsTakenBackAndWhereADesktopInsistsTheBoardIsInT
 TEST_F(WindowTest, KeysThatNobodyMeansDoNothing) {
   ulong time = 1UL << 30;
   const auto send = [&](QWidget& to, const QString& steps) {
-    const std::array type{QEvent::KeyPress, QEvent::KeyRelease};
+    const std::array act{QEvent::KeyPress, QEvent::KeyRelease};
     const std::array keys{Qt::Key_Space, Qt::Key_Return, Qt::Key_Alt, Qt::Key_Right, Qt::Key_J};
     // Keys, + pressed or - released, = at the time of the step before, as X servers repeat them.
     for (const QString& step : steps.split(' ')) {
       const int key = keys[QString("SRA>J").indexOf(step[0])];
       if (!step.endsWith('=')) ++time;
-      QWindowSystemInterface::handleKeyEvent(to.windowHandle(), time, type[step[1] == '-'], key,
-                                             {});
+      QWindowSystemInterface::handleKeyEvent(to.windowHandle(), time, act[step[1] == '-'], key, {});
       settle();
     }
   };
