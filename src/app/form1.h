@@ -8,7 +8,6 @@ namespace tessoro {
 /// The main window: its controls, their places and looks as laid out before the program starts.
 class Form1 final : public platform::Form {
  public:
-  /// Lays them out; no event leads anywhere yet.
   Form1();
 
   platform::Frame Frame1;

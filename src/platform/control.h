@@ -87,7 +87,6 @@ class CommandButton final : public Control {
 class CellPane;
 class Frame;
 
-/// A control, whichever it is, as a form or a frame refers to it.
 using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
 
 /// The controls that a form or a frame holds, from the one farthest back to the one in front.

@@ -18,7 +18,6 @@ class MenuItem final : public Observable {
   Property<bool> enabled{*this, true};
   /// The items of the menu that this one opens, from the top down.
   std::vector<MenuItem*> items;
-  /// It was chosen while enabled.
   std::function<void()> click;
 
   /// The user chose the item; a disabled item does not react.

@@ -44,10 +44,8 @@ struct WindowTest : testing::Test {
 
   WindowTest() {
     QTimer::connect(&watch, &QTimer::timeout, [this] {
-      QWidget* modal = QApplication::activeModalWidget();
-      if (modal == nullptr) return;
       watch.stop();
-      onModal(modal);
+      if (QWidget* modal = QApplication::activeModalWidget()) onModal(modal);
       watch.start();
     });
     watch.start(1);
