@@ -12,7 +12,8 @@ namespace platform {
 /// What the program asks of the desktop it runs on, besides showing its controls.
 class Desktop {
  public:
-  enum class Buttons { ok, yesNo };
+  /// `yesNo` has Yes as its default, the button that Return presses.
+  enum class Buttons { ok, yesNo, yesNoDefaultNo };
   enum class Answer { ok, yes, no };
 
   Desktop() = default;

@@ -99,7 +99,7 @@ ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place,
   QAccessible::installFactory(controlInterface);  // once is enough, and the toolkit sees to that
   // The view draws, also where this is shown or hidden.
   setUpdatesEnabled(false);
-  setGeometry(pixelRect(place));
+  setGeometry(view.rectOf(place));
   setVisible(base(control).Visible());
   if (accessible().inGrid) {
     setFocusPolicy(Qt::ClickFocus);  // the view lets Tab reach one of the grid
@@ -112,10 +112,10 @@ bool ControlWidget::isDisabled() const {
   return cell_ != nullptr && !cell_->enabled();
 }
 
-void ControlWidget::tellClients() {
+void ControlWidget::notifyClients() {
   if (accessible().name() != name_) {
     name_ = accessible().name();
-    tellNewName(*this);
+    notifyNewName(*this);
   }
   if (isDisabled() != disabled_) {
     disabled_ = isDisabled();

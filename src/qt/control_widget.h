@@ -29,7 +29,7 @@ class ControlWidget final : public QWidget {
 
   /// Tells clients of assistive technology the name and the state, if they have changed. What is
   /// shown, hidden or has the focus the toolkit tells by itself.
-  void tellClients();
+  void notifyClients();
   /// Presses and releases a mouse button on the control, once the caller has returned: a client of
   /// assistive technology that waits for it to be done could not answer a message box that it
   /// brings up.

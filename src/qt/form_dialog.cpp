@@ -4,6 +4,7 @@
 
 #include "qt/convert.h"
 #include "qt/form_view.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {
@@ -26,7 +27,9 @@ QString textOf(const platform::Form& form) {
 FormDialog::FormDialog(platform::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
   setWindowTitle(toQString(form.caption()));
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
-  setFixedSize((new FormView(form, this))->size());
+  auto* view = new FormView(form, this);
+  view->resize(view->sizeHint());
+  setFixedSize(view->size());
   focusNextChild();
   announcer_.introduce(textOf(form));
   setWindowModality(Qt::WindowModal);
@@ -41,7 +44,7 @@ FormDialog::~FormDialog() {
 
 void FormDialog::run() {
   form_.Visible = true;
-  exec();
+  runModal(*this);
 }
 
 void FormDialog::reject() {

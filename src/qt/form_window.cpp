@@ -2,8 +2,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <QWindow>
@@ -27,17 +27,13 @@ FormWindow::FormWindow(platform::Form& form)
   for (const platform::MenuItem* menu : form.menus) {
     addMenu(*menuBar()->addMenu(toQString(menu->caption())), *menu);
   }
-  // In the middle, where a desktop makes the window larger than it asks to be.
-  setCentralWidget(new QWidget);
-  auto* middle = new QHBoxLayout(centralWidget());
-  middle->setContentsMargins({});
-  middle->addWidget(view_);
+  setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  // Stated, so that the pointer of a box that has closed under it cannot stay.
+  // Keeps the cursor of a box that closes under the mouse from staying.
   setCursor(Qt::ArrowCursor);
-  // The toolkit's own title bars maximise windows of a fixed size too, whatever flags they have. As
-  // soon as one is about to, the size is let go, since some desktops end a program that does not
-  // take the size they state.
+  // Qt's own title bars maximise windows of a fixed size too, whatever their flags. The size is
+  // released as soon as that begins, because some desktops end a program that does not accept the
+  // size they set.
   create();
   connect(windowHandle(), &QWindow::windowStateChanged, this, [this](Qt::WindowState state) {
     if (state != Qt::WindowMaximized) return;
@@ -52,7 +48,7 @@ FormWindow::~FormWindow() {
 }
 
 void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
-  // Out of the menu the way leads back to the form, not to the menu bar.
+  // A closed menu returns the focus to the form, not to the menu bar.
   connect(
       &menu, &QMenu::aboutToHide, this,
       [this] {
@@ -74,8 +70,8 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
     show();
     entry->changed = show;
     items_.push_back(entry);
-    // Queued, so that a client of assistive technology that chooses the item is not kept waiting
-    // by a box that it brings up.
+    // Queued, so that an accessibility client that chooses the item does not wait for the box that
+    // the item opens.
     connect(
         action, &QAction::triggered, this,
         [this, entry] {
@@ -99,8 +95,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// Waits for the Alt key to come up again with nothing in between. The toolkit does so too, but
-/// only goes to the menu bar, and misses the key while a screen reader listens to the keyboard.
+/// Waits for Alt to be released with no other key or button in between. Qt does so too, but only
+/// moves to the menu bar, and misses the key while a screen reader listens to the keyboard.
 bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
   const auto isAlt = [&] { return dynamic_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt; };
   const QEvent::Type type = event->type();
@@ -128,9 +124,10 @@ void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() != QEvent::WindowStateChange) return;
   if (!isMaximized() && !isFullScreen()) layout()->setSizeConstraint(QLayout::SetFixedSize);
-  if (!isMaximized() || !restored_.hasExpired()) return;
-  restored_.setRemainingTime(1000);
-  // Once the new size has been taken, as a desktop may insist on it.
+  if (!isMaximized() || !nextRestore_.hasExpired()) return;
+  constexpr int milliseconds = 1000;
+  nextRestore_.setRemainingTime(milliseconds);
+  // Queued, so that the new size has been accepted before, in case the desktop insists on it.
   QMetaObject::invokeMethod(
       this, [this] { windowHandle()->setWindowStates(Qt::WindowNoState); }, Qt::QueuedConnection);
 }

@@ -14,13 +14,13 @@ class FormView;
 /// A window that shows a form: its title, icon, menu bar and client area.
 class FormWindow final : public QMainWindow {
  public:
-  /// The form has to outlive the window.
+  /// The form must outlive the window.
   explicit FormWindow(platform::Form& form);
   ~FormWindow() override;
 
-  /// The client area.
+  /// Returns the client area.
   FormView& view() const { return *view_; }
-  /// Has sentences spoken in this window.
+  /// Returns what speaks sentences in this window.
   Announcer& announcer() { return announcer_; }
 
  protected:
@@ -30,14 +30,15 @@ class FormWindow final : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Opens the first menu at its first enabled item, as by the keyboard.
+  /// Opens the first menu with its first enabled item selected.
   void openMenu();
   void addMenu(QMenu& menu, const platform::MenuItem& item);
 
   platform::Form& form_;
-  std::vector<platform::MenuItem*> items_;  ///< those that this window shows
+  std::vector<platform::MenuItem*> items_;  ///< those shown by this window
   FormView* view_;
-  QDeadlineTimer restored_;  ///< until when the desktop is let have its way
+  /// Until it expires, a maximised window is not restored: the desktop insists.
+  QDeadlineTimer nextRestore_;
   Announcer announcer_{*this};
 };
 

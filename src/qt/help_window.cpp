@@ -138,7 +138,7 @@ bool HelpWindow::showContents(const QString& path) {
   }
   text_->clearHistory();
   text_->setFocus();  // which may have been left on a button
-  letKeyBeTakenIn();
+  waitForScreenReader();
   // It waits until the window has come up.
   announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead
                                       : fault);
@@ -150,7 +150,7 @@ bool HelpWindow::showContents(const QString& path) {
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return;
-  letKeyBeTakenIn();
+  waitForScreenReader();
   close();
 }
 

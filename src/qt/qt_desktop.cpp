@@ -1,11 +1,7 @@
 #include "qt/qt_desktop.h"
 
 #include <QFontMetrics>
-#include <QGridLayout>
-#include <QLabel>
-#include <QMessageBox>
 #include <QSettings>
-#include <QTimer>
 #include <algorithm>
 #include <array>
 #include <cstdlib>
@@ -16,15 +12,11 @@
 #include "qt/form_dialog.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
+#include "qt/message_box.h"
 #include "qt/modal.h"
 
 namespace qt {
 namespace {
-
-constexpr int pauseAfterKeys = 500;  // milliseconds
-/// Device-independent pixels. The toolkit's own title bars centre the title in a box, and keep room
-/// for three buttons at the right.
-constexpr int roomForTitle = 206;
 
 constexpr const char* noDisplay =
     "cannot open a window, because there is no display to open it on.";
@@ -101,44 +93,10 @@ QtDesktop::QtDesktop(char* programPath, Program program)
 QtDesktop::~QtDesktop() = default;
 
 platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Buttons buttons) {
-  QMessageBox box(main_.get());
-  box.setWindowTitle(toQString(program_.messageTitle));
-  box.setText(toQString(text));
-  // Room for the title, which is wider than the shortest texts.
-  if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
-    grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
-  }
-  // Modal to the main window alone: help stays readable beside it. The toolkit makes the box a
-  // sheet with that, which has no title bar where the program draws its own.
-  box.setWindowModality(Qt::WindowModal);
-  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                     Qt::WindowCloseButtonHint);
-  box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
-                                                : QMessageBox::Yes | QMessageBox::No);
-  // Else it would be the first, which is No on some desktops.
-  box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
-  // A sentence that waits is read out with the text: by itself it would come after the box, and cut
-  // it short.
-  QString words = box.text();
-  const QList<QLabel*> labels = box.findChildren<QLabel*>();
-  const auto label = std::ranges::find(labels, words, &QLabel::text);
-  if (main_ && label != labels.end()) {
-    const QString sentence = main_->announcer().takeSentence();
-    if (!sentence.isEmpty()) words.prepend(sentence + ". ");
-    (*label)->setAccessibleName(words);
-  }
-  // A key that is kept away from the box cuts short what is said of it all the same.
-  Announcer announcer(box);
-  QTimer pause;
-  pause.setSingleShot(true);
-  pause.setInterval(pauseAfterKeys);
-  QObject::connect(&pause, &QTimer::timeout, [&] { announcer.announce(words); });
-  keyGuard_.keptFromBox = [&] { pause.start(); };
-  letKeyBeTakenIn();
-  const int answer = box.exec();
-  keyGuard_.keptFromBox = nullptr;
-  if (buttons == Buttons::ok) return Answer::ok;
-  return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
+  const QString sentence = main_ ? main_->announcer().takeSentence() : QString();
+  return MessageBox(toQString(program_.messageTitle), toQString(text), buttons, sentence, keyGuard_,
+                    main_.get())
+      .ask();
 }
 
 void QtDesktop::announce(std::string_view sentence) {
@@ -152,7 +110,7 @@ void QtDesktop::yield() {
 }
 
 void QtDesktop::showModal(platform::Form& form) {
-  letKeyBeTakenIn();
+  waitForScreenReader();
   FormDialog(form, main_.get()).run();
 }
 

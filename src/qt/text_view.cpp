@@ -6,6 +6,7 @@ namespace qt {
 
 TextView::TextView(const platform::TextBox& box, QWidget* parent) : QTextEdit(parent), box_(box) {
   setReadOnly(true);
+  setFocusPolicy(Qt::NoFocus);  // a screen reader would say "read only text" and nothing more
   setFrameShape(QFrame::NoFrame);
   setContextMenuPolicy(Qt::PreventContextMenu);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
