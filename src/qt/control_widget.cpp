@@ -144,7 +144,8 @@ void ControlWidget::mousePressEvent(QMouseEvent* event) {
   // While one button is held down, the others come here wherever they are pressed.
   if (cell_ == nullptr || !rect().contains(event->position().toPoint())) return;
   cell_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
-                event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
+                event->position().x() * view_.twipsPerPixel(),
+                event->position().y() * view_.twipsPerPixel()});
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {

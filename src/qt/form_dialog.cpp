@@ -24,12 +24,11 @@ QString textOf(const platform::Form& form) {
 
 }  // namespace
 
-FormDialog::FormDialog(platform::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+FormDialog::FormDialog(platform::Form& form, double zoom, QWidget* parent)
+    : QDialog(parent), form_(form) {
   setWindowTitle(toQString(form.caption()));
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
-  auto* view = new FormView(form, this);
-  view->resize(view->sizeHint());
-  setFixedSize(view->size());
+  setFixedSize((new FormView(form, zoom, this))->size());
   focusNextChild();
   announcer_.introduce(textOf(form));
   setWindowModality(Qt::WindowModal);

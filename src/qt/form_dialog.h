@@ -11,7 +11,7 @@ namespace qt {
 class FormDialog final : public QDialog {
  public:
   /// The form has to outlive the box.
-  FormDialog(platform::Form& form, QWidget* parent);
+  FormDialog(platform::Form& form, double zoom, QWidget* parent);
   ~FormDialog() override;
 
   /// Shows the form, and returns when it has been closed.

@@ -57,8 +57,10 @@ constexpr auto ways = std::to_array<Way>({{Qt::Key_Left, false, toLeft, stay, fa
 
 }  // namespace
 
-FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent), form_(form) {
+FormView::FormView(platform::Form& form, double zoom, QWidget* parent)
+    : QWidget(parent), form_(form), zoom_(zoom) {
   setAttribute(Qt::WA_OpaquePaintEvent);
+  resize(sizeHint());
   addAll(form.controls, {});
   connect(qApp, &QApplication::focusChanged, this, &FormView::moveRing);
 }
@@ -75,11 +77,20 @@ FormView::~FormView() {
 // Drawing
 
 QRect FormView::rectOf(const platform::Place& place) const {
-  return pixelRect(place, 1);
+  return pixelRect(place, zoom_);
 }
 
 QSize FormView::sizeHint() const {
   return rectOf({0, 0, form_.clientWidth, form_.clientHeight}).size();
+}
+
+void FormView::setZoom(double zoom) {
+  zoom_ = zoom;
+  for (const Item& item : items_) {
+    if (item.widget != nullptr) item.widget->setGeometry(rectOf(item.place));
+  }
+  updateGeometry();
+  update();
 }
 
 void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
@@ -106,12 +117,12 @@ void FormView::add(platform::Frame* frame, const platform::Place& place) {
 }
 
 void FormView::add(platform::TextBox* box, const platform::Place& place) {
-  (new TextView(*box, this))->setGeometry(rectOf(place));
+  (new TextView(*box, zoom_, this))->setGeometry(rectOf(place));
 }
 
 void FormView::add(platform::CommandButton* button, const platform::Place& place) {
   auto* view = new QPushButton(toQString(button->caption), this);
-  view->setFont(toQFont(button->font, 1, logicalDpiY()));
+  view->setFont(toQFont(button->font, zoom_, logicalDpiY()));
   view->setGeometry(rectOf(place));
   connect(view, &QPushButton::clicked, this, [button] {
     if (button->click) button->click();
@@ -158,15 +169,16 @@ void FormView::setYielding(bool yielding) {
 }
 
 void FormView::updatePlace(const platform::Place& place) {
-  // At a fractional scale factor Qt may cut a pixel off the edges of what it repaints.
-  const int margin = devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
+  // At a fractional scale Qt may cut a pixel off the edges of what it repaints.
+  const double scale = devicePixelRatioF() * zoom_;
+  const int margin = scale == std::floor(scale) ? 0 : 1;
   update(rectOf(place).adjusted(-margin, -margin, margin, margin));
 }
 
 void FormView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QTransform toPixels = painter.deviceTransform();
-  const double scale = toPixels.m11();
+  const double scale = toPixels.m11() * zoom_;
   const QPoint origin(qRound(toPixels.dx()), qRound(toPixels.dy()));
   const QRegion region = pixelRegion(event->region(), toPixels);
   painter.setTransform(toPixels.inverted(), true);

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "qt/convert.h"
 #include "qt/draw_control.h"
 
 namespace qt {
@@ -21,7 +22,7 @@ class ControlWidget;
 class FormView final : public QWidget {
  public:
   /// The form has to outlive the view.
-  FormView(platform::Form& form, QWidget* parent);
+  FormView(platform::Form& form, double zoom, QWidget* parent);
   ~FormView() override;
 
   /// The size of the whole client area.
@@ -35,7 +36,13 @@ class FormView final : public QWidget {
   /// accessibility clients hear of it only when the handler has finished.
   void setYielding(bool yielding);
 
+  /// Shows the form at the zoom, device-independent pixels to 15 twips. A form's text boxes and
+  /// command buttons keep the zoom they were made with.
+  void setZoom(double zoom);
+
   // For the widgets of the controls:
+  /// Returns how many twips make a device-independent pixel.
+  double twipsPerPixel() const { return qt::twipsPerPixel / zoom_; }
   /// Returns the rectangle of a place in the client area, in device-independent pixels.
   QRect rectOf(const platform::Place& place) const;
   /// Moves the focus where an arrow key, Home or End leads, `control` telling whether Ctrl is down.
@@ -73,6 +80,7 @@ class FormView final : public QWidget {
   void updatePlace(const platform::Place& place);
 
   platform::Form& form_;
+  double zoom_;
   std::vector<Item> items_;  ///< from back to front
   bool refreshScheduled_ = false;
   bool yielding_ = false;

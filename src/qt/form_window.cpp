@@ -6,6 +6,7 @@
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 
@@ -15,12 +16,13 @@
 
 namespace qt {
 
-FormWindow::FormWindow(platform::Form& form)
+FormWindow::FormWindow(platform::Form& form, const Zoom& zoom)
     : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                Qt::WindowCloseButtonHint),
       form_(form),
-      view_(new FormView(form, this)) {
+      zoom_(zoom),
+      view_(new FormView(form, zoom.factor(), this)) {
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
   setWindowTitle(toQString(form.caption()));
   form.changed = [this] { setTitle(*this, toQString(form_.caption())); };
@@ -120,8 +122,30 @@ void FormWindow::openMenu() {
   if (item != items.end()) first->menu()->setActiveAction(*item);
 }
 
+bool FormWindow::fitsAt(double zoom) const {
+  const QSize frame = frameGeometry().size() - size();
+  const QSize needed = sizeHint() * (zoom / zoom_.factor()) + frame;
+  return screen()->availableSize().expandedTo(needed) == screen()->availableSize();
+}
+
+void FormWindow::moveOntoScreen() {
+  layout()->activate();  // gives the window its new size
+  const QRect available = screen()->availableGeometry();
+  QRect frame = frameGeometry();
+  frame.moveRight(std::min(frame.right(), available.right()));
+  frame.moveBottom(std::min(frame.bottom(), available.bottom()));
+  frame.moveTopLeft(
+      {std::max(frame.left(), available.left()), std::max(frame.top(), available.top())});
+  if (frame.topLeft() != pos()) move(frame.topLeft());
+}
+
 void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ApplicationFontChange) {
+    view_->setZoom(zoom_.factor());
+    // Queued, so that the menu bar has its new font before.
+    QMetaObject::invokeMethod(this, [this] { moveOntoScreen(); }, Qt::QueuedConnection);
+  }
   if (event->type() != QEvent::WindowStateChange) return;
   if (!isMaximized() && !isFullScreen()) layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (!isMaximized() || !nextRestore_.hasExpired()) return;

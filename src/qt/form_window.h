@@ -6,6 +6,7 @@
 
 #include "platform/form.h"
 #include "qt/announcer.h"
+#include "qt/zoom.h"
 
 namespace qt {
 
@@ -15,8 +16,11 @@ class FormView;
 class FormWindow final : public QMainWindow {
  public:
   /// The form must outlive the window.
-  explicit FormWindow(platform::Form& form);
+  FormWindow(platform::Form& form, const Zoom& zoom);
   ~FormWindow() override;
+
+  /// Returns whether the screen has room for the window at the zoom.
+  bool fitsAt(double zoom) const;
 
   /// Returns the client area.
   FormView& view() const { return *view_; }
@@ -34,7 +38,10 @@ class FormWindow final : public QMainWindow {
   void openMenu();
   void addMenu(QMenu& menu, const platform::MenuItem& item);
 
+  void moveOntoScreen();
+
   platform::Form& form_;
+  const Zoom& zoom_;
   std::vector<platform::MenuItem*> items_;  ///< those shown by this window
   FormView* view_;
   /// Until it expires, a maximised window is not restored: the desktop insists.

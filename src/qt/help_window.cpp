@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QProxyStyle>
+#include <QScreen>
 #include <QStringDecoder>
 #include <QStyleHintReturn>
 #include <QTextBlock>
@@ -109,10 +110,10 @@ void HelpText::moveCaretTo(const QString& anchor) {
   announcer_.announce(caret.block().text().simplified());
 }
 
-HelpWindow::HelpWindow() : text_(new HelpText(this, announcer_)) {
+HelpWindow::HelpWindow(double zoom) : text_(new HelpText(this, announcer_)) {
   setWindowTitle(QCoreApplication::applicationName() + " Help");
   setCentralWidget(text_);
-  resize(560, 620);
+  resize((QSize(560, 620) * zoom).boundedTo(screen()->availableSize()));
   QToolBar* bar = addToolBar("Navigation");
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -161,7 +162,7 @@ bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,
       folders_, [&](const QString& candidate) { return QDir(candidate).exists(name); });
   const QString path = QDir(folder == folders_.end() ? folders_.first() : *folder).filePath(name);
   if (!window_) {
-    window_ = std::make_unique<HelpWindow>();
+    window_ = std::make_unique<HelpWindow>(zoom_.factor());
     if (owner.icon != nullptr) window_->setWindowIcon(toQIcon(*owner.icon));
   }
   return window_->showContents(path);

@@ -9,6 +9,7 @@
 
 #include "platform/help_viewer.h"
 #include "qt/announcer.h"
+#include "qt/zoom.h"
 
 namespace qt {
 
@@ -34,7 +35,8 @@ class HelpText final : public QTextBrowser {
 /// Shows a help file: HTML, as far as the toolkit's text browser knows it.
 class HelpWindow final : public QMainWindow {
  public:
-  HelpWindow();
+  /// Opens at the size for the zoom, as far as the screen has room.
+  explicit HelpWindow(double zoom);
 
   /// Shows the file at its contents in front of the other windows, or, in its place, a sentence
   /// that says why it cannot be shown. Whether it is shown.
@@ -52,13 +54,14 @@ class HelpWindow final : public QMainWindow {
 /// Finds help files in the given folders and shows them in one window, made when first needed.
 class QtHelpViewer final : public platform::HelpViewer {
  public:
-  explicit QtHelpViewer(QStringList folders) : folders_(std::move(folders)) {}
+  QtHelpViewer(QStringList folders, const Zoom& zoom) : folders_(std::move(folders)), zoom_(zoom) {}
 
   bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
                 unsigned data) override;
 
  private:
   QStringList folders_;
+  const Zoom& zoom_;
   std::unique_ptr<HelpWindow> window_;
 };
 

@@ -2,7 +2,10 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
 
+#include "qt/announcer.h"
 #include "qt/modal.h"
 
 namespace qt {
@@ -16,44 +19,45 @@ constexpr int pauseBeforeRepeat = 500;  // milliseconds
 
 }  // namespace
 
-MessageBox::MessageBox(const QString& title, const QString& text, Buttons buttons,
-                       const QString& pendingSentence, KeyGuard& keyGuard, QWidget* parent)
-    : QMessageBox(parent), keyGuard_(keyGuard) {
-  setWindowTitle(title);
-  setText(text);
-  if (auto* grid = dynamic_cast<QGridLayout*>(layout())) {
+platform::Desktop::Answer showMessageBox(const QString& title, const QString& text,
+                                         platform::Desktop::Buttons buttons,
+                                         const QString& pendingSentence, KeyGuard& keyGuard,
+                                         QWidget* parent) {
+  using platform::Desktop;
+  QMessageBox box(parent);
+  box.setWindowTitle(title);
+  box.setText(text);
+  if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
-  // Qt turns a window-modal box into a sheet, which has no title bar where the program draws its
-  // own.
-  setWindowModality(Qt::WindowModal);
-  setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                 Qt::WindowCloseButtonHint);
-  setStandardButtons(buttons == Buttons::ok ? Ok : Yes | No);
-  // By default it would be the first button, which is No on some desktops.
-  setDefaultButton(buttons == Buttons::ok ? Ok : buttons == Buttons::yesNo ? Yes : No);
+  box.setWindowModality(Qt::WindowModal);
+  // A window-modal box would be a sheet, without a title bar where the program draws its own.
+  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                     Qt::WindowCloseButtonHint);
+  const bool isQuestion = buttons != Desktop::Buttons::ok;
+  box.setStandardButtons(isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  // Without this it would be the first button, which is No on some desktops.
+  box.setDefaultButton(!isQuestion                          ? QMessageBox::Ok
+                       : buttons == Desktop::Buttons::yesNo ? QMessageBox::Yes
+                                                            : QMessageBox::No);
 
   const QString spoken = pendingSentence.isEmpty() ? text : pendingSentence + ". " + text;
-  for (QLabel* label : findChildren<QLabel*>()) {
+  for (QLabel* label : box.findChildren<QLabel*>()) {
     if (label->text() == text) label->setAccessibleName(spoken);
   }
-  // A key kept from the box cuts the reading short where screen readers speak announcements;
-  // others read on.
-  if (!hasAnnouncements) return;
-  repeat_.setSingleShot(true);
-  repeat_.setInterval(pauseBeforeRepeat);
-  connect(&repeat_, &QTimer::timeout, this, [this, spoken] { announcer_.announce(spoken); });
-  keyGuard_.keyKeptFromBox = [this] { repeat_.start(); };
-}
+  // Where sentences are announcements, a key kept from the box cuts the reading short, so it is
+  // read again. Elsewhere it would be read twice.
+  Announcer announcer(box);
+  QTimer repeat;
+  repeat.setSingleShot(true);
+  QObject::connect(&repeat, &QTimer::timeout, [&] { announcer.announce(spoken); });
+  if (hasAnnouncements) keyGuard.keyKeptFromBox = [&] { repeat.start(pauseBeforeRepeat); };
 
-MessageBox::~MessageBox() {
-  keyGuard_.keyKeptFromBox = nullptr;
-}
-
-MessageBox::Answer MessageBox::ask() {
   waitForScreenReader();
-  const int answer = runModal(*this);
-  return standardButtons() == Ok ? Answer::ok : answer == Yes ? Answer::yes : Answer::no;
+  const int answer = runModal(box);
+  keyGuard.keyKeptFromBox = nullptr;
+  if (!isQuestion) return Desktop::Answer::ok;
+  return answer == QMessageBox::Yes ? Desktop::Answer::yes : Desktop::Answer::no;
 }
 
 }  // namespace qt

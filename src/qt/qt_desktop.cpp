@@ -77,26 +77,29 @@ QtDesktop::QtDesktop(char* programPath, Program program)
     : program_(std::move(program)),
       arguments_{programPath, nullptr},
       application_(makeApplication()),
+      zoom_([this](double factor) { return main_ == nullptr || main_->fitsAt(factor); },
+            [this](const QString& sentence) { announce(sentence.toStdString()); }),
       printer_(
           toQString(program_.documentName),
           [this](std::string_view text, Buttons buttons) { return messageBox(text, buttons); }),
       helpViewer_(
           {QApplication::applicationDirPath(),
-           QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
+           QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)},
+          zoom_) {
   QGuiApplication::setDesktopFileName(toQString(program_.packageName));
   // The toolkit's file dialog would keep a file of settings in the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
+  application_->installEventFilter(&zoom_);
   application_->installEventFilter(&keyGuard_);
 }
 
 QtDesktop::~QtDesktop() = default;
 
 platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Buttons buttons) {
-  const QString sentence = main_ ? main_->announcer().takeSentence() : QString();
-  return MessageBox(toQString(program_.messageTitle), toQString(text), buttons, sentence, keyGuard_,
-                    main_.get())
-      .ask();
+  const QString pending = main_ ? main_->announcer().takeSentence() : QString();
+  return qt::showMessageBox(toQString(program_.messageTitle), toQString(text), buttons, pending,
+                            keyGuard_, main_.get());
 }
 
 void QtDesktop::announce(std::string_view sentence) {
@@ -111,7 +114,7 @@ void QtDesktop::yield() {
 
 void QtDesktop::showModal(platform::Form& form) {
   waitForScreenReader();
-  FormDialog(form, main_.get()).run();
+  FormDialog(form, zoom_.factor(), main_.get()).run();
 }
 
 void QtDesktop::endProgram() {
@@ -120,7 +123,7 @@ void QtDesktop::endProgram() {
 }
 
 FormWindow& QtDesktop::show(platform::Form& form, std::string_view greeting) {
-  main_ = std::make_unique<FormWindow>(form);
+  main_ = std::make_unique<FormWindow>(form, zoom_);
   printer_.setParentWindow(main_.get());
   announce(greeting);
   main_->show();

@@ -12,6 +12,7 @@
 #include "qt/help_window.h"
 #include "qt/key_guard.h"
 #include "qt/qt_printer.h"
+#include "qt/zoom.h"
 
 namespace qt {
 
@@ -41,6 +42,9 @@ class QtDesktop final : public platform::Desktop {
   double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
   [[noreturn]] void endProgram() override;
 
+  /// Returns the guard, whose clock tests set.
+  KeyGuard& keyGuard() { return keyGuard_; }
+
   /// Shows the form as the program's main window, until it is closed, which has to be before the
   /// form's end. A screen reader speaks the greeting once the window has come up.
   FormWindow& show(platform::Form& form, std::string_view greeting);
@@ -63,6 +67,7 @@ class QtDesktop final : public platform::Desktop {
   std::unique_ptr<QApplication> application_;
   KeyGuard keyGuard_;
   std::unique_ptr<FormWindow> main_;
+  Zoom zoom_;
   QtPrinter printer_;
   QtHelpViewer helpViewer_;
   platform::Clock clock_;
