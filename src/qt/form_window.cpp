@@ -141,7 +141,7 @@ void FormWindow::moveOntoScreen() {
 
 void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() == QEvent::ApplicationFontChange) {
+  if (event->type() == QEvent::FontChange) {
     view_->setZoom(zoom_.factor());
     // Queued, so that the menu bar has its new font before.
     QMetaObject::invokeMethod(this, [this] { moveOntoScreen(); }, Qt::QueuedConnection);
