@@ -35,7 +35,7 @@ class Desktop {
   /// Lets the windows process their pending events; their handlers run inside the call.
   virtual void yield() = 0;
 
-  /// The local time of day in seconds since midnight, with fractions: 0 <= t < 86400.
+  /// Returns the time of day in seconds since midnight, with fractions: 0 <= t < 86400.
   virtual double secondsSinceMidnight() = 0;
 
   /// Shows the form modal over the main window, which takes no input meanwhile, and returns when

@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <utility>
@@ -149,6 +150,12 @@ void QtDesktop::yield() {
   if (main_) main_->view().setYielding(true);
   QApplication::processEvents();
   if (main_) main_->view().setYielding(false);
+}
+
+double QtDesktop::secondsSinceMidnight() {
+  const auto now = std::chrono::system_clock::now();
+  const auto midnight = std::chrono::floor<std::chrono::days>(now);
+  return std::chrono::duration<double>(now - midnight).count();
 }
 
 void QtDesktop::showModal(platform::Form& form) {

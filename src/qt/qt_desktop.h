@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/form.h"
 #include "qt/help_window.h"
@@ -38,7 +37,7 @@ class QtDesktop final : public platform::Desktop {
   void showModal(platform::Form& form) override;
   platform::Printer& printer() override { return printer_; }
   platform::HelpViewer& helpViewer() override { return helpViewer_; }
-  double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  double secondsSinceMidnight() override;
   [[noreturn]] void endProgram() override;
 
   /// Shows the form as the program's main window, until it is closed, which has to be before the
@@ -65,7 +64,6 @@ class QtDesktop final : public platform::Desktop {
   std::unique_ptr<FormWindow> main_;
   QtPrinter printer_;
   QtHelpViewer helpViewer_;
-  platform::Clock clock_;
 };
 
 }  // namespace qt
