@@ -130,10 +130,9 @@ void Narrator::explainDisabledSolveit() {
 
 void Narrator::explainTyping(int cell) {
   const CellRole role = roleOf(cell);
-  const bool isOperator = role == CellRole::rowOperator || role == CellRole::columnOperator;
-  say(cell == 0    ? "Nothing is set here"
-      : isOperator ? "Plus, minus or times is set here"
-                   : "A digit from 1 to 9 is set here");
+  say(cell == 0                        ? "Nothing is set here"
+      : role == CellRole::operatorSign ? "Plus, minus or times is set here"
+                                       : "A digit from 1 to 9 is set here");
 }
 
 void Narrator::explainEdge() {

@@ -109,8 +109,7 @@ Accessible describedCell(int index, const Board& board) {
   switch (roleOf(index)) {
     case CellRole::number:
       return {Accessible::Role::button, name, {press(), decrease()}, true};
-    case CellRole::rowOperator:
-    case CellRole::columnOperator:
+    case CellRole::operatorSign:
       return {Accessible::Role::button, name, {press()}, true};
     case CellRole::equals:
     case CellRole::rowResult:
