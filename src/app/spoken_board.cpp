@@ -58,14 +58,6 @@ std::vector<Line> linesEndingIn(const Board& board, int cell) {
   return lines;
 }
 
-/// How a corner stands to the puzzle, as the end of a clause: once play has begun, either a smiling
-/// face or its target is shown beside it.
-std::string standing(const Board& board, int k) {
-  const Cell& target = board.GridDisp[OuterCornerCells[k]];
-  if (board.NPict[k].Visible()) return ", correct";
-  return target.Visible() ? ", target " + target.caption() : "";
-}
-
 /// The end of a line: its value, and how that stands to the puzzle if it is a corner.
 std::string endOfLine(const Line& line) {
   const int result = line.cellAt(6);
@@ -166,6 +158,12 @@ std::string spokenCell(const Board& board, int cell) {
 
 std::string cornerName(int k) {
   return std::string(cornerNames[k]);
+}
+
+std::string standing(const Board& board, int k) {
+  const Cell& target = board.GridDisp[OuterCornerCells[k]];
+  if (board.NPict[k].Visible()) return ", correct";
+  return target.Visible() ? ", target " + target.caption() : "";
 }
 
 std::string spokenRow(const Board& board, int row) {

@@ -31,6 +31,10 @@ std::string spokenRow(const Board& board, int row);
 /// The same of column 1..7, from the top down.
 std::string spokenColumn(const Board& board, int column);
 
+/// Returns how corner k = 1..4 stands to the puzzle, as the end of a clause: ", correct" or, for
+/// instance, ", target 3". It is empty until play has begun.
+std::string standing(const Board& board, int k);
+
 /// The four corners: what each shows, and, once play has begun, that it is correct or its target.
 std::string spokenCorners(const Board& board);
 
