@@ -10,6 +10,11 @@ namespace {
 
 using platform::MouseButton;
 
+/// Returns the character that a letter stands for, so that plus and times need no Shift key.
+char withoutShift(char character) {
+  return character == 'p' ? '+' : character == 'x' ? '*' : character;
+}
+
 /// Returns whether a player may expect the character to set something.
 bool isForSetting(char character) {
   return std::string_view("0123456789+-*").find(character) != std::string_view::npos;
@@ -28,8 +33,8 @@ bool KeyCommands::typed(int index, char character, bool shift) {
     narrator_.say(spokenColumn(form_.board, columnOf(index)));
   } else if (character == 'n') {
     goToEmpty(index, shift);
-  } else if (isForSetting(character)) {
-    set(index, character);
+  } else if (const char text = withoutShift(character); isForSetting(text)) {
+    set(index, text);
   } else {
     return false;
   }

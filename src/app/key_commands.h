@@ -6,7 +6,8 @@
 
 namespace tessoro {
 
-/// What typed characters do: set a cell, ask what the board shows, or go to the next empty cell.
+/// What typed characters do: set a cell, ask what the board shows, or go to the next empty cell. P
+/// types a plus and X a times.
 class KeyCommands {
  public:
   KeyCommands(Form1& form, Moves& moves, Narrator& narrator)
