@@ -14,7 +14,7 @@ class KeyCommands {
       : form_(form), moves_(moves), narrator_(narrator) {}
 
   /// Handles a character typed on cell 1..49, or on a button with 0. Letters come in lower case,
-  /// and `shift` tells whether that key was down. Returns whether the character means anything
+  /// and `shift` says whether that key was down. Returns whether the character has a meaning
   /// there.
   bool typed(int index, char character, bool shift);
 
