@@ -101,7 +101,7 @@ QtDesktop::QtDesktop(char* programPath, Program program)
 
 QtDesktop::~QtDesktop() = default;
 
-platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Buttons buttons) {
+platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons buttons) {
   QMessageBox box(main_.get());
   box.setWindowTitle(toQString(program_.messageTitle));
   box.setText(toQString(text));

@@ -32,6 +32,7 @@ class QtDesktop final : public platform::Desktop {
   QtDesktop(char* programPath, Program program);
   ~QtDesktop() override;
 
+  Answer messageBox(std::string_view text, Buttons buttons) override;
   void announce(std::string_view sentence) override;
   void yield() override;
   void showModal(platform::Form& form) override;
@@ -47,9 +48,6 @@ class QtDesktop final : public platform::Desktop {
   void close();
   /// Shows the form and handles its events until the program ends; the program's exit status.
   int run(platform::Form& form, std::string_view greeting);
-
- protected:
-  Answer showMessageBox(std::string_view text, Buttons buttons) override;
 
  private:
   /// The toolkit's application; ends the program where it cannot be had.
