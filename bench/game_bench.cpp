@@ -11,7 +11,7 @@ namespace {
 
 class NoWindows final : public platform::Desktop {
  public:
-  Answer showMessageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
+  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
     return Answer::ok;
   }
   void announce(std::string_view /*sentence*/) override {}
