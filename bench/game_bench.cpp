@@ -6,25 +6,24 @@
 
 #include "allocations.h"
 #include "app/game.h"
-#include "platform/clock.h"
 
 namespace {
 
 class NoWindows final : public platform::Desktop {
  public:
-  Answer showMessageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
+  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
     return Answer::ok;
   }
   void announce(std::string_view /*sentence*/) override {}
   void yield() override {}
-  double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  double secondsSinceMidnight() override {
+    const auto now = std::chrono::system_clock::now();
+    return std::chrono::duration<double>(now - std::chrono::floor<std::chrono::days>(now)).count();
+  }
   void showModal(platform::Form& /*form*/) override {}
   platform::Printer& printer() override { std::abort(); }
   platform::HelpViewer& helpViewer() override { std::abort(); }
   [[noreturn]] void endProgram() override { std::exit(EXIT_SUCCESS); }
-
- private:
-  platform::Clock clock_;
 };
 
 struct Bench {

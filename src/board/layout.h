@@ -26,8 +26,7 @@ constexpr int columnOf(int cell) {
 /// What a cell is for. The characters are those of `roleMap`.
 enum class CellRole : char {
   number = 'n',
-  rowOperator = '-',
-  columnOperator = '|',
+  operatorSign = '+',
   equals = '=',
   hole = '#',
   rowResult = 'r',
@@ -39,13 +38,13 @@ enum class CellRole : char {
 
 constexpr std::string_view roleMap =
     " "
-    "n-n-n=r"
-    "|#|#|#|"
-    "n-n-n=r"
-    "|#|#|#|"
-    "n-n-n=r"
+    "n+n+n=r"
+    "+#+#+#+"
+    "n+n+n=r"
+    "+#+#+#+"
+    "n+n+n=r"
     "=#=#=#="
-    "c-c-c=g"
+    "c+c+c=g"
     "oooo";
 static_assert(roleMap.size() == boardCells);
 

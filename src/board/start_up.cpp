@@ -36,8 +36,7 @@ void StartUp::setLook(int index) {
       cell.enabled = false;
       break;
     case CellRole::number:
-    case CellRole::rowOperator:
-    case CellRole::columnOperator:
+    case CellRole::operatorSign:
     case CellRole::spare:
       break;
   }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "platform/form.h"
@@ -21,22 +20,16 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
 
-  /// Called before a message box is shown.
-  std::function<void()> boxOpens;
-
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
-  Answer messageBox(std::string_view text, Buttons buttons) {
-    if (boxOpens) boxOpens();
-    return showMessageBox(text, buttons);
-  }
+  virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
   /// Has a screen reader, if one listens, speak the sentence.
   virtual void announce(std::string_view sentence) = 0;
 
   /// Lets the windows process their pending events; their handlers run inside the call.
   virtual void yield() = 0;
 
-  /// The local time of day in seconds since midnight, with fractions: 0 <= t < 86400.
+  /// Returns the time of day in seconds since midnight, with fractions: 0 <= t < 86400.
   virtual double secondsSinceMidnight() = 0;
 
   /// Shows the form modal over the main window, which takes no input meanwhile, and returns when
@@ -50,9 +43,6 @@ class Desktop {
 
   /// Ends the program at once: no further handler runs, and the windows close with it.
   [[noreturn]] virtual void endProgram() = 0;
-
- protected:
-  virtual Answer showMessageBox(std::string_view text, Buttons buttons) = 0;
 };
 
 }  // namespace platform

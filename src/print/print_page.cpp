@@ -23,7 +23,8 @@ constexpr std::size_t innerStart(int grid, int cell) {
   return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
 }
 
-constexpr int lineOf(int heading, int cell) {
+/// Returns the line of the page on which a cell of the slot under `heading` stands.
+constexpr int pageLine(int heading, int cell) {
   return heading + 2 * rowOf(cell);
 }
 
@@ -53,13 +54,13 @@ void PrintPage::drawGrid(int heading, int grid) {
   for (int cell = 1; cell <= gridCells; ++cell) {
     if (roleOf(cell) == CellRole::equals) write(heading, grid, cell, '=');
     if (roleOf(cell) == CellRole::hole) {
-      overwrite(lineOf(heading, cell), innerStart(grid, cell), holeMark);
+      overwrite(pageLine(heading, cell), innerStart(grid, cell), holeMark);
     }
   }
 }
 
 void PrintPage::write(int heading, int grid, int cell, char text) {
-  PrintLines[lineOf(heading, cell)][innerStart(grid, cell) + 1] = text;
+  PrintLines[pageLine(heading, cell)][innerStart(grid, cell) + 1] = text;
 }
 
 void PrintPage::RecordPuzzleForPrint() {

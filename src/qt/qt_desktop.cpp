@@ -4,6 +4,7 @@
 #include <QSettings>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <utility>
@@ -96,9 +97,9 @@ QtDesktop::QtDesktop(char* programPath, Program program)
 
 QtDesktop::~QtDesktop() = default;
 
-platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Buttons buttons) {
+platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons buttons) {
   const QString pending = main_ ? main_->announcer().takeSentence() : QString();
-  return qt::showMessageBox(toQString(program_.messageTitle), toQString(text), buttons, pending,
+  return showMessageBox(toQString(program_.messageTitle), toQString(text), buttons, pending,
                             keyGuard_, main_.get());
 }
 
@@ -110,6 +111,12 @@ void QtDesktop::yield() {
   if (main_) main_->view().setYielding(true);
   QApplication::processEvents();
   if (main_) main_->view().setYielding(false);
+}
+
+double QtDesktop::secondsSinceMidnight() {
+  const auto now = std::chrono::system_clock::now();
+  const auto midnight = std::chrono::floor<std::chrono::days>(now);
+  return std::chrono::duration<double>(now - midnight).count();
 }
 
 void QtDesktop::showModal(platform::Form& form) {

@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/form.h"
 #include "qt/help_window.h"
@@ -34,12 +33,13 @@ class QtDesktop final : public platform::Desktop {
   QtDesktop(char* programPath, Program program);
   ~QtDesktop() override;
 
+  Answer messageBox(std::string_view text, Buttons buttons) override;
   void announce(std::string_view sentence) override;
   void yield() override;
   void showModal(platform::Form& form) override;
   platform::Printer& printer() override { return printer_; }
   platform::HelpViewer& helpViewer() override { return helpViewer_; }
-  double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  double secondsSinceMidnight() override;
   [[noreturn]] void endProgram() override;
 
   /// Returns the guard, whose clock tests set.
@@ -52,9 +52,6 @@ class QtDesktop final : public platform::Desktop {
   void close();
   /// Shows the form and handles its events until the program ends; the program's exit status.
   int run(platform::Form& form, std::string_view greeting);
-
- protected:
-  Answer showMessageBox(std::string_view text, Buttons buttons) override;
 
  private:
   /// The toolkit's application; ends the program where it cannot be had.
@@ -70,7 +67,6 @@ class QtDesktop final : public platform::Desktop {
   Zoom zoom_;
   QtPrinter printer_;
   QtHelpViewer helpViewer_;
-  platform::Clock clock_;
 };
 
 }  // namespace qt

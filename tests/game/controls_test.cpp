@@ -1,12 +1,9 @@
-#include <cstdlib>
-#include <ctime>
 #include <set>
 #include <sstream>
 
 #include "app/about_form.h"
 #include "app/pictures.h"
 #include "fixture.h"
-#include "platform/clock.h"
 
 namespace tessoro::test {
 
@@ -88,21 +85,6 @@ TEST(LayoutTest, ThePicturesAndTheirColours) {
     EXPECT_EQ(row, std::string(row.rbegin(), row.rend())) << "its halves are alike";
   const std::set<std::string_view> rows(calculator.rows.begin(), calculator.rows.end());
   EXPECT_EQ(rows.size(), 11) << "its rim, its display, and three times each row of keys";
-}
-
-TEST(ClockTest, TellsTheLocalTimeOfDay) {
-  using namespace std::chrono_literals;
-  setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1);
-  tzset();
-  platform::Clock clock;
-  // In UTC and in local time, on the day when clocks in Europe are set from 2 to 3.
-  const std::vector<std::pair<std::chrono::milliseconds, double>> times{
-      {30min, 5400}, {1h - 250ms, 7199.75},   {1h, 10800},
-      {30min, 5400}, {22h - 250ms, 86399.75}, {22h, 0}};
-  for (const auto& [utc, local] : times) {
-    const platform::Clock::Time day = std::chrono::sys_days{2026y / 3 / 29};
-    EXPECT_EQ(clock.secondsSinceMidnight(day + utc), local);
-  }
 }
 
 }  // namespace tessoro::test

@@ -18,7 +18,7 @@ using Log = std::vector<std::string>;
 /// and runs handlers while it yields.
 struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpViewer {
   void announce(std::string_view sentence) override { said.emplace_back(sentence); }
-  Answer showMessageBox(std::string_view text, Buttons buttons) override {
+  Answer messageBox(std::string_view text, Buttons buttons) override {
     log.push_back(std::string(text) + (buttons == Buttons::ok ? " [OK]" : " [Yes] [No]"));
     said.push_back(log.back());
     return buttons == Buttons::ok ? Answer::ok : answer;

@@ -104,10 +104,11 @@ TEST_F(GameTest, SetAPuzzleFromEnteringToLeaving) {
                         "over; targets 7 1 3 8\nR7_-_7_+_1 =R1" + knownRows + "R3_* 5_- 7 =R8");
   press(49);
   form.SolveMx.choose();
-  EXPECT_EQ(desktop.said,
-            (Log{"Solved as puzzle 1",
-                 "Solved already: change a corner, or press any number to solve it again", "9",
-                 "Back from setting puzzles. Press New Puzzle to play on"}));
+  EXPECT_EQ(
+      desktop.said,
+      (Log{"Solved as puzzle 1",
+           "Solved already: change a corner, or press a number or operator cell to solve it again",
+           "9", "Back from setting puzzles. Press New Puzzle to play on"}));
   EXPECT_EQ(look(),
             "Puzzle Number  1; New Puzzle\nSet a Puzzle for computer to Solve:    ; over\n"
             "g7_-_7_+_1 =g1" +
@@ -184,14 +185,12 @@ TEST_F(GameTest, ACharacterSetsAsksOrTellsWhyNot) {
   };
   const std::string digitsOnly = " | A digit from 1 to 9 is set here";
   expect(
-      {{0, "ltrcxnN5", corners + " | " + corners + " | ? | ? | ? | 2 | 46 | Nothing is set here"},
+      {{0, "ltrcqnN5", corners + " | " + corners + " | ? | ? | ? | 2 | 46 | Nothing is set here"},
        {1, "r5", "Row 1: 7 empty empty empty empty, no value, target 1 | This number is given"},
        {2, "c7N", "Column 2: empty, empty, empty, empty | Plus, minus or times is set here | 46"},
        {36, "r-n", "Row 6: equals, equals, equals, equals | Nothing is set here | 44"},
        {17, "77+-0*l",
-        "7, no line has a value yet, corners to get right: top right, bottom left, bottom right | "
-        "7 | 8 | 7" +
-            digitsOnly + digitsOnly + digitsOnly},
+        "7, no line has a value yet | 7 | 8 | 7" + digitsOnly + digitsOnly + digitsOnly},
        {18, "-+*5", "minus | plus | times | Plus, minus or times is set here"},
        {7, "5", "Results are worked out, not set"},
        {3, "7", "7"},
