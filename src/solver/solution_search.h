@@ -23,11 +23,10 @@ class SolutionSearch {
         Solveit_(Solveit),
         attempt_(state, digits) {}
 
-  /// Searches for a solution with the corners that the targets fix, and makes it the current
-  /// puzzle: in the window's title, the board's corners and the print page. Hides the outer corner
-  /// cells and disables `Solveit`. After 500 attempts it shows a message, clears the board between
-  /// the corners and restores the puzzle number. Processes pending events before each attempt. The
-  /// caller clears the rest of the board.
+  /// Searches for a solution with the corners that the targets fix, processing pending events
+  /// before each attempt. On success stores it as the current puzzle, updates title, corners and
+  /// print page, hides the outer corner cells and disables `Solveit`. After 500 attempts shows a
+  /// message, clears the board between the corners and restores the puzzle number.
   void FindSolution();
 
   /// Returns whether the last search found a solution; true while one is running.
