@@ -9,7 +9,7 @@
 namespace qt {
 namespace {
 
-/// All that can be read in a form, line by line: a screen reader would go to its button at once.
+/// Returns all texts of a form. A screen reader by itself reads only the button with the focus.
 QString textOf(const platform::Form& form) {
   QStringList lines;
   for (const platform::ControlRef& control : form.controls) {

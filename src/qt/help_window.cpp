@@ -21,7 +21,7 @@ namespace {
 constexpr const char* howToRead =
     ". The arrow keys go through the text, Tab to its links, Escape closes it";
 
-/// Why the file cannot be shown, in one sentence; empty if it can.
+/// Returns in one sentence why the file cannot be shown; empty if it can.
 QString faultOf(const QString& path) {
   const QString name = QFileInfo(path).fileName();
   QFile file(path);
@@ -39,8 +39,8 @@ QString faultOf(const QString& path) {
   return {};
 }
 
-/// Marks the link that the keys have come to as selected text is marked: the toolkit's own box
-/// around it has a dotted line of one pixel.
+/// Style that marks the link with the focus like selected text, because Qt's own mark is a dotted
+/// line one pixel wide.
 class LinkStyle final : public QProxyStyle {
  public:
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -57,7 +57,7 @@ class LinkStyle final : public QProxyStyle {
   }
 };
 
-/// Where the text has the anchor of this name; 0 if it has none.
+/// Returns the position of the anchor in the text; 0 if it has none.
 int positionOf(const QString& anchor, const QTextDocument& text) {
   for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -80,14 +80,14 @@ HelpText::HelpText(QWidget* parent, Announcer& announcer)
 }
 
 void HelpText::keyPressEvent(QKeyEvent* event) {
-  // From the first key on there is a caret, which screen readers follow; the mouse needs none.
+  // The first key turns on a caret, which screen readers follow; the mouse needs none.
   setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard);
   const QUrl before = source();
   const int depth = backwardHistoryCount();
   QTextBrowser::keyPressEvent(event);
   if (source() == before) return;
   if (backwardHistoryCount() < depth) {
-    announceLink();  // the one that was followed: the toolkit goes back to it
+    announceLink();  // Qt selects the link that was followed before
   } else {
     moveCaretTo(source().fragment());
   }
@@ -132,15 +132,15 @@ bool HelpWindow::showContents(const QString& path) {
   const QString fault = faultOf(path);
   if (fault.isEmpty()) {
     text_->setSource(QUrl::fromLocalFile(path), QTextDocument::HtmlResource);
-    text_->reload();  // for it may have changed
+    text_->reload();  // the file may have changed
     text_->scrollToAnchor("contents");
   } else {
     text_->setPlainText(fault);
   }
   text_->clearHistory();
-  text_->setFocus();  // which may have been left on a button
+  text_->setFocus();  // a button may have it
   waitForScreenReader();
-  // It waits until the window has come up.
+  // Spoken once the window is shown.
   announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead
                                       : fault);
   showNormal();

@@ -22,8 +22,8 @@ namespace {
 constexpr const char* noDisplay =
     "cannot open a window, because there is no display to open it on.";
 
-/// What keeps the toolkit from opening windows, by what it says of it, in the order of what
-/// helps most.
+/// What Qt reports when it cannot open windows, and what to tell the user instead; the most helpful
+/// first.
 constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
     {"Could not find the Qt platform plugin \"wayland\"",
      "cannot open a window in this Wayland session, because the package qt6-wayland is not "
@@ -37,15 +37,16 @@ constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
   std::_Exit(EXIT_FAILURE);
 }
 
-/// What the toolkit has said during its start.
+/// Returns the messages of Qt during its start.
 QString& heldMessages() {
   static QString messages;
   return messages;
 }
 
-/// The toolkit aborts where it can open no window, which would leave a core dump and paragraphs of
-/// plug-in names instead of the one fact that matters. What is not known here is told in its words,
-/// but for warnings of no category, such as that of the locale, which are not why.
+/// Message handler that collects Qt's messages and, when Qt gives up, ends the program with the one
+/// fact that matters. Qt itself would abort with a core dump and paragraphs of plug-in names. An
+/// unknown problem is reported in Qt's words, without warnings of no category, such as that about
+/// the locale, which are never the reason.
 void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   static QString reasons;
   heldMessages() += qFormatLogMessage(type, context, message) + '\n';
@@ -88,7 +89,7 @@ QtDesktop::QtDesktop(char* programPath, Program program)
            QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)},
           zoom_) {
   QGuiApplication::setDesktopFileName(toQString(program_.packageName));
-  // The toolkit's file dialog would keep a file of settings in the user's home.
+  // Qt's file dialog would write a settings file into the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
   application_->installEventFilter(&zoom_);
@@ -100,7 +101,7 @@ QtDesktop::~QtDesktop() = default;
 platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons buttons) {
   const QString pending = main_ ? main_->announcer().takeSentence() : QString();
   return showMessageBox(toQString(program_.messageTitle), toQString(text), buttons, pending,
-                            keyGuard_, main_.get());
+                        keyGuard_, main_.get());
 }
 
 void QtDesktop::announce(std::string_view sentence) {
@@ -125,7 +126,7 @@ void QtDesktop::showModal(platform::Form& form) {
 }
 
 void QtDesktop::endProgram() {
-  // Leaving through the event loop would let more handlers run; the windows go with the process.
+  // Leaving through the event loop would let more handlers run.
   std::_Exit(EXIT_SUCCESS);
 }
 

@@ -6,7 +6,7 @@
 
 namespace qt {
 
-/// Shows a text box.
+/// Widget that shows a text box.
 class TextView final : public QTextEdit {
  public:
   TextView(const platform::TextBox& box, double zoom, QWidget* parent);

@@ -31,33 +31,29 @@ Zoom::Zoom(std::function<bool(double)> fits, std::function<void(const QString&)>
       announce_(std::move(announce)),
       usualFont_(QApplication::font()),
       start_(QGuiApplication::primaryScreen()->availableSize().height() < largeScreen ? 0 : twice) {
-  setStep(start_);
+  if (start_ != 0) stepTo(start_);
 }
 
 double Zoom::factor() const {
   return factors[step_];
 }
 
-void Zoom::setStep(std::size_t step) {
-  if (step == step_) return;
+void Zoom::stepTo(std::size_t step) {
   step_ = step;
   QFont font = usualFont_;
-  if (step != 0) font.setPointSizeF(QFontInfo(usualFont_).pointSizeF() * factor());
+  if (step != 0) font.setPointSizeF(QFontInfo(font).pointSizeF() * factor());
   QApplication::setFont(font);
+  announce_(QString("%1 percent").arg(factor() * 100));
 }
 
 void Zoom::stepBy(int steps) {
-  // One below the first step is beyond the last.
+  // A step below the first is a number beyond the last.
   const std::size_t step = step_ + static_cast<std::size_t>(steps);
-  if (step >= factors.size() || (steps > 0 && !fits_(factors[step]))) {
-    return announce_(steps > 0 ? "Largest" : "Smallest");
+  if (step < factors.size() && (steps < 0 || fits_(factors[step]))) {
+    stepTo(step);
+  } else {
+    announce_(steps > 0 ? "Largest" : "Smallest");
   }
-  stepTo(step);
-}
-
-void Zoom::stepTo(std::size_t step) {
-  setStep(step);
-  announce_(QString("%1 percent").arg(factor() * 100));
 }
 
 bool Zoom::eventFilter(QObject* watched, QEvent* event) {

@@ -26,7 +26,6 @@ class Zoom final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void setStep(std::size_t step);
   void stepTo(std::size_t step);
   void stepBy(int steps);
 
