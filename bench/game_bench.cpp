@@ -11,9 +11,7 @@ namespace {
 
 class HeadlessDesktop final : public platform::Desktop {
  public:
-  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
-    return Answer::ok;
-  }
+  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override { return Answer::ok; }
   void announce(std::string_view /*sentence*/) override {}
   void yield() override {}
   double secondsSinceMidnight() override {
