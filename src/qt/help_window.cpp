@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QProxyStyle>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStringDecoder>
 #include <QStyleHintReturn>
 #include <QTextBlock>
@@ -133,7 +134,7 @@ bool HelpWindow::showContents(const QString& path) {
   if (fault.isEmpty()) {
     text_->setSource(QUrl::fromLocalFile(path), QTextDocument::HtmlResource);
     text_->reload();  // the file may have changed
-    text_->scrollToAnchor("contents");
+    text_->verticalScrollBar()->setValue(0);
   } else {
     text_->setPlainText(fault);
   }
