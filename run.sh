@@ -5,9 +5,9 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . packaging/prepare.sh
 
 # Whoever starts this may have closed the standard streams, which the tools below do not expect.
-if ! { true <&0; } 2>/dev/null; then exec </dev/null; fi
-if ! { true >&1; } 2>/dev/null; then exec >/dev/null; fi
-if ! { true >&2; } 2>/dev/null; then exec 2>/dev/null; fi
+[[ -e /dev/fd/0 ]] || exec </dev/null
+[[ -e /dev/fd/1 ]] || exec >/dev/null
+[[ -e /dev/fd/2 ]] || exec 2>/dev/null
 
 if ! mkdir -p build 2>/dev/null || [[ ! -w build ]]; then
   echo "The game is built in $PWD/build, which is not writable: copy the sources elsewhere." >&2

@@ -53,14 +53,20 @@ release() {
   DEB_CXXFLAGS_APPEND=-Werror DEB_BUILD_OPTIONS=terse build_package first
 }
 
+# The one fault that the metainfo may have: there is no homepage to name.
+metainfo() {
+  local faults
+  faults=$(appstreamcli validate --no-net --no-color "$1" | grep '^[EW]:' |
+    grep -v url-homepage-missing)
+  [[ ! $faults ]] || { echo "$faults" >&2; return 1; }
+}
+
 packaged_files() {
   local root=$package/root
   dpkg-deb --extract "$package"/first/tessoro_*.deb "$root" &&
     lintian --allow-root --fail-on error,warning "$package"/first/*.changes &&
     desktop-file-validate "$root/usr/share/applications/tessoro.desktop" &&
-    # There is no homepage to name.
-    appstreamcli validate --no-net --override url-homepage-missing=info \
-      "$root/usr/share/metainfo/org.example.tessoro.metainfo.xml" &&
+    metainfo "$root/usr/share/metainfo/org.example.tessoro.metainfo.xml" &&
     # So small a program calls no function that can be fortified, and not every Debian asks for
     # control flow protection.
     hardening-check --nofortify --nocfprotection "$root/usr/games/tessoro" &&
@@ -68,7 +74,7 @@ packaged_files() {
 }
 
 reproducible() {
-  (umask 077 && DEB_BUILD_OPTIONS=nocheck,terse build_package second --build=binary) || return
+  (umask 077 && DEB_BUILD_OPTIONS='nocheck terse' build_package second --build=binary) || return
   local file
   for file in "$package"/first/*.deb; do cmp "$file" "$package/second/${file##*/}" || return; done
 }
