@@ -90,8 +90,8 @@ std::string Narrator::changesSince(const Heard& before) const {
 
 std::string Narrator::whyNotSet(int cell) const {
   if (state_.SolveMode) {
-    const bool isSolved = state_.BoardLocked && !form_.Solveit.enabled();
-    return isSolved ? whyNotSolved() : "Only corners are set in this mode";
+    if (!state_.BoardLocked) return "Only corners are set in this mode";
+    return form_.Solveit.enabled() ? "Press Solve Puzzle to solve it again" : whyNotSolved();
   }
   if (form_.board.GridDisp[cell].enabled()) return "The puzzle is over";
   switch (roleOf(cell)) {

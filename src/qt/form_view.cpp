@@ -169,9 +169,9 @@ void FormView::setYielding(bool yielding) {
 }
 
 void FormView::updatePlace(const platform::Place& place) {
-  // At a fractional scale Qt may cut a pixel off the edges of what it repaints.
-  const double scale = devicePixelRatioF() * zoom_;
-  const int margin = scale == std::floor(scale) ? 0 : 1;
+  // At a fractional scale the edges that are drawn may lie a pixel further out.
+  const auto isWhole = [](double scale) { return scale == std::floor(scale); };
+  const int margin = isWhole(zoom_) && isWhole(devicePixelRatioF()) ? 0 : 1;
   update(rectOf(place).adjusted(-margin, -margin, margin, margin));
 }
 

@@ -95,9 +95,9 @@ class FormView final : public QWidget {
 
   ControlWidget* tabStop_ = nullptr;       ///< the control of the grid that Tab reaches
   const ControlWidget* ringed_ = nullptr;  ///< the control with the focus ring, if any
-  /// Whether the player works with the keyboard: set by Tab and by every key that does something,
-  /// cleared by the mouse. Qt has such an attribute too, but 6.11 clears it whenever the focus
-  /// moves by anything but Tab.
+  /// Whether the player works with the keyboard: set by Tab, by the menu keys and by every key that
+  /// does something on the board, cleared by the mouse. Qt has such an attribute too, but 6.11
+  /// clears it whenever the focus moves by anything but Tab.
   bool keysUsed_ = false;
 };
 

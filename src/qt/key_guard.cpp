@@ -26,11 +26,13 @@ quint32 idOf(const QKeyEvent& event) {
   return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<quint32>(event.key());
 }
 
-bool pressesSomething(int key) {
+/// Returns whether the key acts rather than moves: on a control, or as a shortcut with Ctrl.
+bool pressesSomething(const QKeyEvent& event) {
   const QWidget* focused = QApplication::focusWidget();
   return (dynamic_cast<const ControlWidget*>(focused) != nullptr ||
-          dynamic_cast<const QAbstractButton*>(focused) != nullptr) &&
-         std::ranges::find(movingKeys, key) == movingKeys.end();
+          dynamic_cast<const QAbstractButton*>(focused) != nullptr ||
+          event.modifiers().testFlag(Qt::ControlModifier)) &&
+         std::ranges::find(movingKeys, event.key()) == movingKeys.end();
 }
 
 }  // namespace
@@ -64,7 +66,7 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   if (isBox && !repeat) boxWaits_ = false;
-  return repeat && pressesSomething(key->key());
+  return repeat && pressesSomething(*key);
 }
 
 qint64 KeyGuard::steadyClock() {

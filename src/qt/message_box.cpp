@@ -26,6 +26,7 @@ platform::Desktop::Answer showMessageBox(const QString& title, const QString& te
   using platform::Desktop;
   QMessageBox box(parent);
   box.setWindowTitle(title);
+  box.setTextFormat(Qt::PlainText);
   box.setText(text);
   if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
     grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());

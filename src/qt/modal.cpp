@@ -38,7 +38,10 @@ int runModal(QDialog& dialog) {
     QObject::connect(
         dialog.windowHandle(), &QWindow::windowStateChanged, &dialog,
         [&dialog](Qt::WindowState state) {
-          if (state == Qt::WindowMinimized) dialog.reject();
+          // With the window below it, it comes back.
+          const bool isAlone =
+              dialog.parentWidget() == nullptr || !dialog.parentWidget()->isMinimized();
+          if (state == Qt::WindowMinimized && isAlone) dialog.reject();
         },
         Qt::QueuedConnection);
   };

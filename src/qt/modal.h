@@ -14,8 +14,8 @@ bool isBlocked(const QWidget& widget);
 /// then would cut short what it says of the window. What the player does meanwhile waits.
 void waitForScreenReader();
 
-/// Shows the dialog modally and returns as `QDialog::exec` does. Minimising the dialog counts as
-/// closing it: some desktops have no way to bring a minimised dialog back.
+/// Shows the dialog modally and returns as `QDialog::exec` does. Minimising the dialog alone counts
+/// as closing it: some desktops have no way to bring it back.
 int runModal(QDialog& dialog);
 
 }  // namespace qt

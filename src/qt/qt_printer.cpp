@@ -134,11 +134,16 @@ void QtPrinter::endDocument() {
 std::string_view QtPrinter::printOrSave() const {
   // Qt's look-up blocks the window until the print system answers, if ever. A command that asks it
   // first can be waited for and cancelled.
-  if (!ask("lpstat", {"-d"}, window_)) return notSent;
+  const std::optional<QString> printers = ask("lpstat", {"-d", "-p"}, window_);
+  if (!printers) return notSent;
   const QPrinterInfo printer = printerToUse();
   const QPageSize paper = printer.defaultPageSize();
   const QByteArray pdf = sheet(paper.isValid() ? paper : usualPaper());
-  return printer.isNull() ? saveAsPdf(pdf) : sendToPrinter(printer.printerName(), pdf);
+  if (printer.isNull()) return saveAsPdf(pdf);
+  const std::string_view failure = sendToPrinter(printer.printerName(), pdf);
+  const bool isStopped =
+      printers->contains("printer " + printer.printerName() + " disabled since ");
+  return failure.empty() && isStopped ? "The printer is stopped; the page waits for it." : failure;
 }
 
 std::string_view QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) const {
@@ -152,9 +157,7 @@ std::string_view QtPrinter::sendToPrinter(const QString& printer, const QByteArr
     return "It is not known whether the printer has got the page: look for it there before you "
            "print it again.";
   }
-  if (job->isEmpty()) return notSent;
-  const QString state = ask("lpstat", {"-p", printer}, window_).value_or("");
-  return state.contains(" disabled since ") ? "The printer is stopped; the page waits for it." : "";
+  return job->isEmpty() ? notSent : "";
 }
 
 std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {

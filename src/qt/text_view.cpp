@@ -1,5 +1,7 @@
 #include "qt/text_view.h"
 
+#include <QWheelEvent>
+
 #include "qt/convert.h"
 
 namespace qt {
@@ -20,6 +22,11 @@ TextView::TextView(const platform::TextBox& box, double zoom, QWidget* parent)
 
 void TextView::mousePressEvent(QMouseEvent* /*event*/) {
   if (box_.mouseDown) box_.mouseDown();
+}
+
+/// QTextEdit would zoom its text with Ctrl and the wheel.
+void TextView::wheelEvent(QWheelEvent* event) {
+  event->ignore();
 }
 
 }  // namespace qt

@@ -13,6 +13,7 @@ class TextView final : public QTextEdit {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   const platform::TextBox& box_;

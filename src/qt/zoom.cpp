@@ -65,11 +65,13 @@ bool Zoom::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const auto& key = dynamic_cast<QKeyEvent&>(*event);
     if (!isCtrl(key.modifiers())) return false;
-    const auto* step = std::ranges::find(keySteps, key.key(), &std::pair<int, int>::first);
+    const auto* found = std::ranges::find(keySteps, key.key(), &std::pair<int, int>::first);
     if (key.key() == Qt::Key_0) {
-      stepTo(start_);
-    } else if (step != keySteps.end()) {
-      stepBy(step->second);
+      std::size_t step = start_;
+      while (step > 0 && !fits_(factors[step])) --step;
+      stepTo(step);
+    } else if (found != keySteps.end()) {
+      stepBy(found->second);
     } else {
       return false;
     }
