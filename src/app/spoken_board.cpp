@@ -58,15 +58,7 @@ std::vector<Line> linesEndingIn(const Board& board, int cell) {
   return lines;
 }
 
-/// How a corner stands to the puzzle, as the end of a clause: once play has begun, either a smiling
-/// face or its target is shown beside it.
-std::string standing(const Board& board, int k) {
-  const Cell& target = board.GridDisp[OuterCornerCells[k]];
-  if (board.NPict[k].Visible()) return ", correct";
-  return target.Visible() ? ", target " + target.caption() : "";
-}
-
-/// The end of a line: its value, and how that stands to the puzzle if it is a corner.
+/// Returns the end of a line: its value and, if it ends in a corner, how that compares.
 std::string endOfLine(const Line& line) {
   const int result = line.cellAt(6);
   const int k = cornerOf(result);
@@ -98,7 +90,7 @@ Accessible::Action decrease() {
   return {"Decrease", MouseButton::right};
 }
 
-/// What a cell shows, then its place.
+/// Returns what a cell shows, then its place.
 std::string describe(int index, const Board& board) {
   return spokenCell(board, index) + ", row " + numberText(rowOf(index)) + " column " +
          numberText(columnOf(index));
@@ -153,11 +145,10 @@ std::string spoken(const std::string& caption) {
 std::string spokenCell(const Board& board, int cell) {
   const std::string& caption = board.GridDisp[cell].caption();
   if (caption != noNumber) return spoken(caption);
-  // One that the user has yet to state.
   if (cornerOf(cell) != 0 && standing(board, cornerOf(cell)).empty()) return "not set";
   bool full = false;
   for (const Line& line : linesEndingIn(board, cell)) {
-    // The grand result has no value while any other has none.
+    // The grand result has no value while another result has none.
     if (!line.hasNumbers()) return spoken(caption);
     full = full || line.isFullWithoutDigit();
   }
@@ -166,6 +157,12 @@ std::string spokenCell(const Board& board, int cell) {
 
 std::string cornerName(int k) {
   return std::string(cornerNames[k]);
+}
+
+std::string standing(const Board& board, int k) {
+  const Cell& target = board.GridDisp[OuterCornerCells[k]];
+  if (board.NPict[k].Visible()) return ", correct";
+  return target.Visible() ? ", target " + target.caption() : "";
 }
 
 std::string spokenRow(const Board& board, int row) {

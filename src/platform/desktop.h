@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "platform/form.h"
@@ -20,13 +19,9 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
 
-  /// Called before a message box is shown.
-  std::function<void()> boxOpens;
-
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
   Answer messageBox(std::string_view text, Buttons buttons) {
-    if (boxOpens) boxOpens();
     return showMessageBox(text, buttons);
   }
   /// Has a screen reader, if one listens, speak the sentence.

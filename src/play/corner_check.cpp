@@ -23,6 +23,7 @@ void CornerCheck::CheckCorners() {
   if (!solved) return;
   RightMess_.Visible = false;
   state_.BoardLocked = true;
+  if (beforeMessage) beforeMessage();
   desktop_.messageBox("You got it !", platform::Desktop::Buttons::ok);
 }
 

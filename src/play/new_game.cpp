@@ -18,7 +18,7 @@ void NewGame::NewPuz_Click() {
 
 void NewGame::StartSolx_Click() {
   state_.SolveMode = false;
-  // The results are drawn too, like the numbers, and then overwritten.
+  // Random digits are drawn for the results as well, which are then overwritten.
   for (int k = 1; k <= 16; ++k) {
     board_.GridDisp[numberCells[k]].caption = numberText(digits_.draw());
   }

@@ -11,7 +11,7 @@
 
 namespace tessoro {
 
-/// The two commands that put a fresh position on the board.
+/// The two commands that start a new position on the board.
 class NewGame {
  public:
   NewGame(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -26,11 +26,11 @@ class NewGame {
         digits_(digits),
         RightMess_(RightMess) {}
 
-  /// The button "New Puzzle": clears the board and has a new puzzle made, leaving set-a-puzzle mode
-  /// first.
+  /// Handles the button "New Puzzle": leaves set-a-puzzle mode, clears the board and makes a new
+  /// puzzle.
   void NewPuz_Click();
-  /// The menu command "Start a Solution": fills the board with random numbers, the puzzle's own at
-  /// the top left, and "+" everywhere, to be worked on from there.
+  /// Handles the menu command "Start a Solution": fills the board with random numbers, the puzzle's
+  /// own at the top left, and "+" everywhere, for the player to change.
   void StartSolx_Click();
 
  private:

@@ -6,16 +6,16 @@
 
 namespace tessoro {
 
-/// Gives a puzzle up: writes its solution onto the board.
+/// The display of a puzzle's solution on the board.
 class SolutionDisplay {
  public:
   SolutionDisplay(PuzzleState& state, Board& board, platform::Label& RightMess)
       : state_(state), board_(board), RightMess_(RightMess) {}
 
-  /// The menu command: shows the solution and ends play on this puzzle.
+  /// Handles the menu command: shows the solution and ends play on this puzzle.
   void ShowSolx_Click();
-  /// Writes the stored solution onto the board as it is stored, its corners green. After a search
-  /// that gave up it is not the solution of any puzzle.
+  /// Writes the stored solution onto the board, its corners green. After a search that gave up,
+  /// what is stored is not the solution of any puzzle.
   void ShowSolution();
 
  private:
