@@ -37,7 +37,7 @@ class Invariants {
              "four right ones end the puzzle";
     const bool onGrid = pressed != 0 && pressed <= gridCells && kinds[pressed] != '#';
     if (onGrid && said.empty()) return "Every press on the grid is answered";
-    if (onGrid && changed && (moved || cornerOf(pressed) != 0) &&
+    if (onGrid && now_.texts[pressed] != before.texts[pressed] &&
         !said.starts_with(spoken(now_.texts[pressed])))
       return "A press is answered first with what its cell shows";
     if (moved && !changesAreSaid(before, said)) return "Whatever a move changes is said";

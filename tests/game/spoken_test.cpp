@@ -13,18 +13,74 @@ TEST_F(SpokenTest, LastMoveIsSaidBeforeItsBox) {
                                "You got it ! [OK]"}));
 }
 
-TEST_F(SpokenTest, CommandsAreSaid) {
-  click(form.NewPuz);
-  nextDigits = std::string(16, '1');
-  choose("Start a Solution");
-  choose("Show Solution");
-  EXPECT_EQ(desktop.said, Log{});
+TEST_F(SpokenTest, FirstMoveSaysThatNoLineHasAValue) {
+  press(17);
+  EXPECT_EQ(lastSaid(), "1, no line has a value yet");
 }
 
-TEST_F(SpokenTest, StatingAPuzzleIsSaid) {
+TEST_F(SpokenTest, NewPuzzleIsSaidWithItsCorners) {
+  nextDigits = solutionDigits;
+  click(form.NewPuz);
+  EXPECT_EQ(lastSaid(),
+            "Puzzle 2. Corners: top left 7, top right 1, bottom left 3, bottom right 8");
+}
+
+TEST_F(SpokenTest, FailedSearchIsSaidByItsBoxAlone) {
+  failNextSearch();
+  click(form.NewPuz);
+  EXPECT_EQ(desktop.said, Log{"Cannot Solve This Time ! [OK]"});
+}
+
+TEST_F(SpokenTest, RandomStartIsSaidWithItsCorners) {
+  nextDigits = "1111111111111111";
+  choose("Start a Solution");
+  EXPECT_EQ(lastSaid(),
+            "Random start. Corners: top left 7, correct, top right 9, target 1, bottom left 9, "
+            "target 3, bottom right no digit, target 8");
+}
+
+TEST_F(SpokenTest, ShownSolutionAndTheEndAreSaid) {
+  choose("Show Solution");
+  press(17);
+  type(17, 'n');
+  EXPECT_EQ(desktop.said, (Log{"The solution is shown, and the puzzle is over",
+                               "The puzzle is over", "The puzzle is over"}));
+}
+
+TEST_F(SpokenTest, StatingAPuzzleIsSaidStepByStep) {
+  choose("Set a Puzzle for computer to solve");
+  press(3);
+  type(43, 't');
+  choose("End computer solution mode");
+  EXPECT_EQ(desktop.said,
+            (Log{"Set each corner to its number, then press Solve Puzzle",
+                 "Only corners are set in this mode",
+                 "Corners: top left not set, top right not set, bottom left not set, bottom right "
+                 "not set",
+                 "Back from setting puzzles. Press New Puzzle to play on"}));
+}
+
+TEST_F(SpokenTest, DisabledSolvePuzzleSaysWhatIsMissing) {
+  choose("Set a Puzzle for computer to solve");
+  click(form.Solveit);
+  EXPECT_EQ(lastSaid(), "Set the corners first");
+}
+
+TEST_F(SpokenTest, SolvedPuzzleIsSaidAndThatItIsSolvedAlready) {
   choose("Set a Puzzle for computer to solve");
   turn(1, "7 . . . . . 1");
-  choose("End computer solution mode");
+  turn(43, "3 . . . . . 8");
+  click(form.Solveit);
+  EXPECT_EQ(lastSaid(), "Solved as puzzle 2");
+  click(form.Solveit);
+  EXPECT_TRUE(lastSaid().starts_with("Solved already")) << lastSaid();
+}
+
+TEST_F(SpokenTest, TargetSaysWhatItIs) {
+  press(17);
+  press(52);
+  EXPECT_EQ(lastSaid(), "This is the number to reach");
+  EXPECT_EQ(cell(52).accessible.name(), "bottom left target 3");
 }
 
 /// What is heard on a key in the middle of a puzzle:
