@@ -8,7 +8,7 @@ TEST_F(SpokenTest, LastMoveIsSaidBeforeItsBox) {
   solveExcept(33);
   desktop.said.clear();
   type(33, '2');
-  EXPECT_EQ(desktop.said, (Log{"2, row 5 is 2, column 5 is 7, total is 8, bottom left is correct, "
+  EXPECT_EQ(desktop.said, (Log{"2, row 5 is 2, column 5 is 7, total is 8, "
                                "bottom right is correct",
                                "You got it ! [OK]"}));
 }
