@@ -182,7 +182,7 @@ class Invariants {
                                : columnOf(i) == 7 ? "row " + std::to_string(rowOf(i))
                                                   : "column " + std::to_string(columnOf(i));
       if (!isSaid(", " + line + (now != "?" ? " is " + now : " "))) return false;
-      const int k = cornerOf(i);
+      const int k = game_.search.SolveFound() ? cornerOf(i) : 0;  // else there is no puzzle
       const std::string target = k == 0 ? "none" : cell(OuterCornerCells[k]).caption();
       if (now == target && !isSaid(cornerName(k) + " is correct")) return false;
       if (before.texts[i] == target && !isSaid(cornerName(k) + " is wrong, target " + target))
