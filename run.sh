@@ -4,15 +4,22 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . packaging/prepare.sh
 
+# Whoever starts this may have closed the standard streams, which the tools below do not expect.
+if ! { true <&0; } 2>/dev/null; then exec </dev/null; fi
+if ! { true >&1; } 2>/dev/null; then exec >/dev/null; fi
+if ! { true >&2; } 2>/dev/null; then exec 2>/dev/null; fi
+
 if ! mkdir -p build 2>/dev/null || [[ ! -w build ]]; then
-  echo "The game is built in $PWD/build, which cannot be written: copy the sources to where it can." >&2
+  echo "The game is built in $PWD/build, which is not writable: copy the sources elsewhere." >&2
   exit 1
 fi
-# shellcheck disable=SC2119
-install_packages
+# Without fonts-dejavu-core, a machine with no other fonts shows menus in a monospaced one. Without
+# qt6-wayland, a Wayland session that has no X server shows no window.
+install_packages g++ cmake ninja-build qt6-base-dev qt6-wayland \
+  fonts-dejavu-core fonts-liberation cups-client
 remove_moved_build build/release
 if [[ ! -e build/release/tessoro ]]; then echo 'Building the game.' >&2; fi
-# What CMake finds is of no interest to a player; what it misses goes to standard error.
+# What CMake finds is of no interest to a player. What it misses goes to standard error.
 cmake --preset release >/dev/null
 cmake --build --preset release --target tessoro -- --quiet |
   sed '/^ninja: no work to do\.$/d'

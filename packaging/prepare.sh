@@ -1,8 +1,7 @@
 # shellcheck shell=bash
-# For run.sh and test.sh to source.
+# Functions that run.sh and test.sh share.
 
-# Removes what was built in the folder before the sources were moved or copied: it refers to where
-# they were, and CMake goes no further when it sees that.
+# Removes a build folder whose sources have been moved or copied since: CMake refuses to use it.
 remove_moved_build() {
   local cache=$1/CMakeCache.txt
   if [[ -e $cache && ! $(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache") -ef . ]]; then
@@ -10,65 +9,38 @@ remove_moved_build() {
   fi
 }
 
-can_be_root() {
-  ((EUID == 0)) || command -v sudo >/dev/null
+# Runs apt-get as root with the arguments, after an update of its lists. Ends the script if that is
+# not possible.
+apt_get() {
+  local as_root=()
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      {
+        echo 'Some packages are missing. This installs them, with the password of root:'
+        echo "    su -c 'apt-get update && apt-get $*'"
+      } >&2
+      exit 1
+    fi
+    as_root=(sudo)
+  fi
+  # Nobody is there to be asked: configuration files that the machine has changed stay.
+  if ! "${as_root[@]}" apt-get update || ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get "$@" -y -o Dpkg::Options::=--force-confdef -o Dpkg::Options::=--force-confold; then
+    echo "Packages are missing and could not be installed: apt-get $*" >&2
+    exit 1
+  fi
 }
 
-as_root() {
-  if ((EUID == 0)); then "$@"; else sudo "$@"; fi
-}
-
-# Whether the package is one of `optional` and apt's lists, where it has any, are without it.
-can_do_without() {
-  [[ " ${optional[*]} " == *" $1 "* && $(apt-cache madison g++) && ! $(apt-cache madison "$1") ]]
-}
-
-could_not_install() {
-  echo "These packages are missing and could not be installed: $*" >&2
-  exit 1
-}
-
-# Installs the Debian packages that building and playing the game takes, and those named as
-# arguments. Without fonts-dejavu-core a bare machine would show menus in a typewriter's typeface;
-# without qt6-wayland there is no window in a Wayland session that has no X server beside it.
-# Those in `optional` are installed too, but for those that Debian does not have: `unavailable` has
-# these afterwards.
-optional=()
-unavailable=()
+# Installs those of the Debian packages that are missing.
 install_packages() {
-  local needed=(
-    g++ cmake ninja-build qt6-base-dev qt6-wayland
-    fonts-dejavu-core fonts-liberation cups-client
-    "$@" "${optional[@]}"
-  )
   if ! command -v apt-get >/dev/null; then
-    echo "Without apt-get, this counts on finding the equivalents of: ${needed[*]}" >&2
+    echo "There is no apt-get here, so these packages are expected to be installed: $*" >&2
     return
   fi
-
   local missing=() package
-  for package in "${needed[@]}"; do
+  for package in "$@"; do
     dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
       missing+=("$package")
   done
-  if ((${#missing[@]} == 0)); then return; fi
-
-  if can_be_root; then as_root apt-get update || could_not_install "${missing[@]}"; fi
-  local obtainable=()
-  for package in "${missing[@]}"; do
-    if can_do_without "$package"; then unavailable+=("$package"); else obtainable+=("$package"); fi
-  done
-  if ((${#obtainable[@]} == 0)); then return; fi
-
-  if ! can_be_root; then
-    {
-      echo 'Some packages are missing. This installs them, with the password of root:'
-      echo "    su -c 'apt-get update && apt-get install --no-install-recommends ${obtainable[*]}'"
-    } >&2
-    exit 1
-  fi
-  # Nobody is there to be asked: the machine's own settings stay as they are.
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
-    -o Dpkg::Options::=--force-confdef -o Dpkg::Options::=--force-confold "${obtainable[@]}" ||
-    could_not_install "${obtainable[@]}"
+  if ((${#missing[@]})); then apt_get install --no-install-recommends "${missing[@]}"; fi
 }

@@ -10,7 +10,7 @@ void StartUp::Form_Load() {
   for (int cell = 0; cell < boardCells; ++cell) setLook(cell);
   board_.colourCorners(ColGreen);
   for (int k = 1; k <= 4; ++k) board_.GridDisp[CornerCells[k]].forecolor = ColWhite;
-  // The top left corner is a number of the puzzle, not one for the player to find.
+  // The puzzle gives the number at the top left, so the player cannot change it.
   board_.GridDisp[CornerCells[1]].enabled = false;
   board_.SetCellTags();
   search_.FindSolution();

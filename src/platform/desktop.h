@@ -11,7 +11,8 @@ namespace platform {
 /// What the program asks of the desktop it runs on, besides showing its controls.
 class Desktop {
  public:
-  enum class Buttons { ok, yesNo };
+  /// `yesNo` has Yes as its default, the button that Return presses.
+  enum class Buttons { ok, yesNo, yesNoDefaultNo };
   enum class Answer { ok, yes, no };
 
   Desktop() = default;
@@ -21,9 +22,7 @@ class Desktop {
 
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
-  Answer messageBox(std::string_view text, Buttons buttons) {
-    return showMessageBox(text, buttons);
-  }
+  virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
   /// Has a screen reader, if one listens, speak the sentence.
   virtual void announce(std::string_view sentence) = 0;
 
@@ -44,9 +43,6 @@ class Desktop {
 
   /// Ends the program at once: no further handler runs, and the windows close with it.
   [[noreturn]] virtual void endProgram() = 0;
-
- protected:
-  virtual Answer showMessageBox(std::string_view text, Buttons buttons) = 0;
 };
 
 }  // namespace platform

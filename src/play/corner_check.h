@@ -9,16 +9,15 @@
 
 namespace tessoro {
 
-/// The comparison of the board's corners with the puzzle's, which ends it when all four are right.
+/// Comparison of the board's corners with the puzzle's, which detects the solved puzzle.
 class CornerCheck {
  public:
   CornerCheck(PuzzleState& state, Board& board, platform::Label& RightMess,
               platform::Desktop& desktop)
       : state_(state), board_(board), RightMess_(RightMess), desktop_(desktop) {}
 
-  /// Turns each right corner green under a smiling face, and each wrong one black beside its
-  /// target. When all four are right, locks the board and tells the player; returns when the
-  /// message is closed.
+  /// Shows each right corner in green with a smiling face, each wrong one in black with its target.
+  /// When all four are right, locks the board, shows a message and returns after it is closed.
   void CheckCorners();
   /// Called before that message.
   std::function<void()> beforeMessage;

@@ -18,7 +18,7 @@ void NewGame::NewPuz_Click() {
 
 void NewGame::StartSolx_Click() {
   state_.SolveMode = false;
-  // Random digits are drawn for the results as well, which are then overwritten.
+  // Draws digits for the results, too; updateAll() overwrites them.
   for (int k = 1; k <= 16; ++k) {
     board_.GridDisp[numberCells[k]].caption = numberText(digits_.draw());
   }

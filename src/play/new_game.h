@@ -11,7 +11,7 @@
 
 namespace tessoro {
 
-/// The two commands that start a new position on the board.
+/// Commands that begin a new puzzle or a new position.
 class NewGame {
  public:
   NewGame(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -26,11 +26,9 @@ class NewGame {
         digits_(digits),
         RightMess_(RightMess) {}
 
-  /// Handles the button "New Puzzle": leaves set-a-puzzle mode, clears the board and makes a new
-  /// puzzle.
+  /// Leaves set-a-puzzle mode if it is on, clears the board and makes a new puzzle.
   void NewPuz_Click();
-  /// Handles the menu command "Start a Solution": fills the board with random numbers, the puzzle's
-  /// own at the top left, and "+" everywhere, for the player to change.
+  /// Fills the board with random numbers and "+" as a start; the puzzle's own number stays.
   void StartSolx_Click();
 
  private:

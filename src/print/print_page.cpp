@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t lineWidth = 70;
 
-// The columns, counted from 1, at which the two grids of a slot begin.
+// First columns, counted from 1, of the two grids of a slot.
 constexpr int puzzleGrid = 1;
 constexpr int solutionGrid = 40;
 
@@ -18,7 +18,7 @@ constexpr std::string_view cellLine = "|   |   |   |   |   |   |   |";
 constexpr std::string_view separatorLine = "|---|---|---|---|---|---|---|";
 constexpr std::string_view holeMark = "///";
 
-/// The index in its line of the first of a cell's three inner characters.
+/// Returns the index in the line of the first of a cell's three inner characters.
 constexpr std::size_t innerStart(int grid, int cell) {
   return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
 }
@@ -31,7 +31,7 @@ constexpr int pageLine(int heading, int cell) {
 }  // namespace
 
 void PrintPage::InitPrintPage() {
-  // Line 1, the first heading, stays empty until there is a puzzle to name.
+  // Line 1, the first heading, stays empty until the first puzzle.
   for (int line = 2; line <= 75; ++line) PrintLines[line].assign(lineWidth, ' ');
   for (const int heading : headings) {
     drawGrid(heading, puzzleGrid);

@@ -1,37 +1,21 @@
 #pragma once
 
-#include <QAccessible>
-#include <QApplication>
-#include <QEventLoop>
-#include <QScopedValueRollback>
-#include <QTimer>
+#include <QDialog>
 #include <QWidget>
 
 namespace qt {
 
-/// Whether a box is about to come up.
-inline bool& boxIsComing() {
-  static bool coming = false;
-  return coming;
-}
+/// Returns whether the widget's window takes no input because a modal box is open over it, or about
+/// to open. Qt keeps the mouse and the keyboard away by itself, but not accessibility clients.
+bool isBlocked(const QWidget& widget);
 
-/// Whether the widget's window takes no input because a modal box is open over it, or about to be.
-/// The toolkit keeps the mouse and the keyboard away by itself, but not assistive technology.
-inline bool isBlocked(const QWidget& widget) {
-  const QWidget* box = QApplication::activeModalWidget();
-  return boxIsComing() || (box != nullptr && box != widget.window());
-}
+/// Gives a screen reader, if one listens, 100 ms to notice the key that the player has just
+/// pressed. To be called before a window opens or closes: a screen reader that notices the key only
+/// then would cut short what it says of the window. What the player does meanwhile waits.
+void waitForScreenReader();
 
-/// Screen readers may take in a key only after what it has brought about, and then cut short what
-/// they have begun to say of that. While one listens, gives it the time to do so before a window
-/// comes or goes; what the user does meanwhile waits.
-inline void letKeyBeTakenIn() {
-  constexpr int time = 100;  // milliseconds
-  if (!QAccessible::isActive()) return;
-  const QScopedValueRollback coming(boxIsComing(), true);
-  QEventLoop loop;
-  QTimer::singleShot(time, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
-}
+/// Shows the dialog modally and returns as `QDialog::exec` does. Minimising the dialog counts as
+/// closing it: some desktops have no way to bring a minimised dialog back.
+int runModal(QDialog& dialog);
 
 }  // namespace qt

@@ -4,14 +4,16 @@
 
 namespace qt {
 
-TextView::TextView(const platform::TextBox& box, QWidget* parent) : QTextEdit(parent), box_(box) {
+TextView::TextView(const platform::TextBox& box, double zoom, QWidget* parent)
+    : QTextEdit(parent), box_(box) {
   setReadOnly(true);
+  setFocusPolicy(Qt::NoFocus);  // a screen reader would say "read only text" and nothing more
   setFrameShape(QFrame::NoFrame);
   setContextMenuPolicy(Qt::PreventContextMenu);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   viewport()->setAutoFillBackground(false);
-  setFont(toQFont(box.font, 1, logicalDpiY()));
+  setFont(toQFont(box.font, zoom, logicalDpiY()));
   document()->setDefaultTextOption(QTextOption(Qt::AlignCenter));
   setPlainText(toQString(box.text));
 }

@@ -6,15 +6,14 @@
 namespace tessoro {
 namespace {
 
-/// The output function of the SplitMix64 generator: a bijection in which every bit of the result
-/// depends on every bit of `x`.
+/// Returns SplitMix64's output for the state `x`; every bit of it depends on every bit of `x`.
 constexpr std::uint64_t mix(std::uint64_t x) {
   x = (x ^ (x >> 30U)) * 0xbf58476d1ce4e5b9U;
   x = (x ^ (x >> 27U)) * 0x94d049bb133111ebU;
   return x ^ (x >> 31U);
 }
 
-/// The step of SplitMix64's state: 2^64 divided by the golden ratio, made odd.
+/// SplitMix64's increment: 2^64 divided by the golden ratio, rounded to an odd number.
 constexpr std::uint64_t goldenGamma = 0x9e3779b97f4a7c15U;
 
 }  // namespace

@@ -17,9 +17,8 @@ std::string_view secondOperator(std::size_t pair) {
   return OpPairs[pair].substr(1);
 }
 
-/// Sets the values of "a op1 b op2 c" under the pairs of `OpPairs`, in its order. With digits 1..9
-/// they lie between -80 and 729. They are set in place, one by one, because copying an array that
-/// has just been written in smaller parts makes the processor wait.
+/// Stores the values of "a op1 b op2 c" in the order of `OpPairs`; digits 1..9 give -80 to 729.
+/// Writes them in place, because copying a freshly written array stalls the processor.
 void setPairValues(SolutionAttempt::PairValues& values, int a, int b, int c) {
   const auto set = [&](std::size_t k, int value) { values[k] = static_cast<std::int16_t>(value); };
   set(1, a + b + c);
@@ -56,7 +55,7 @@ void SolutionAttempt::drawRow(int row) {
   const int start = (row - 1) * 4 + 1;
   do {
     for (int k = start; k < start + 3; ++k) {
-      const int digit = digits_.draw();  // drawn even where the number is fixed
+      const int digit = digits_.draw();  // a fixed number uses up a draw, too
       const bool fixed = k == 1 && isFixed(state_.TargetTL);
       state_.SolNumbers[k] = digitTexts_[fixed ? state_.TargetTL : digit];
     }
@@ -71,7 +70,7 @@ bool SolutionAttempt::chooseColumns() {
   for (int col = 1; col <= 4; ++col) {
     ChooseColPair(col);
     if (!found()) return false;
-    // Column 4's entries are provisional: the match of the grand total replaces them.
+    // For column 4 this is provisional: MatchGrandTotal() replaces it.
     state_.SolNumbers[12 + col] = LineResult;
     state_.SolOperators[7 + 2 * col] = LineOp1;
     state_.SolOperators[8 + 2 * col] = LineOp2;
@@ -99,13 +98,13 @@ void SolutionAttempt::choosePair(int first, int step, std::int16_t target) {
   for (std::size_t k = 1; k <= PairCount; ++k) {
     if (isDigit(PairValue[k]) && (!isFixed(target) || PairValue[k] == target)) {
       LineResult = digitTexts_[PairValue[k]];
-      takeOperators(k);
+      setOperators(k);
       return;
     }
   }
 }
 
-void SolutionAttempt::takeOperators(std::size_t pair) {
+void SolutionAttempt::setOperators(std::size_t pair) {
   LineOp1 = firstOperator(pair);
   LineOp2 = secondOperator(pair);
 }
@@ -118,7 +117,7 @@ void SolutionAttempt::MatchGrandTotal() {
       if (!isDigit(total) || RowPairValue[i] != total) continue;
       state_.SolOperators[7] = firstOperator(i);
       state_.SolOperators[8] = secondOperator(i);
-      takeOperators(j);
+      setOperators(j);
       if (isFixed(state_.TargetBR) && total != state_.TargetBR) continue;
       state_.SolNumbers[16] = digitTexts_[total];
       state_.SolOperators[15] = LineOp1;

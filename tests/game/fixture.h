@@ -19,7 +19,7 @@ struct ProgramEnded {};
 /// A desktop without windows that records what the game asks of it.
 struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpViewer {
   void announce(std::string_view sentence) override { said.emplace_back(sentence); }
-  Answer showMessageBox(std::string_view text, Buttons buttons) override {
+  Answer messageBox(std::string_view text, Buttons buttons) override {
     said.push_back(std::string(text) + (buttons == Buttons::ok ? " [OK]" : " [Yes] [No]"));
     return buttons == Buttons::ok ? Answer::ok : answer;
   }
