@@ -1,5 +1,3 @@
-#include <set>
-
 #include "app/about_form.h"
 #include "app/pictures.h"
 #include "fixture.h"
@@ -28,32 +26,6 @@ TEST_F(ButtonTest, HiddenOneIsSilent) {
   EXPECT_EQ(desktop.said, Log{});
 }
 
-TEST_F(ButtonTest, WindowIsToldOfChangesAlone) {
-  int changes = 0;
-  form.NewPuz.changed = [&] { ++changes; };
-  for (const char* caption : {"New", "New", "Old"}) form.NewPuz.caption = caption;
-  EXPECT_EQ(changes, 2);
-}
-
-/// What clients are told: the number of actions of each cell, '.' where it is not presented.
-TEST_F(ButtonTest, NumbersOfferTwoActionsAndOperatorsOne) {
-  std::string actions;
-  for (int i = 1; i <= gridCells; ++i) {
-    const auto& it = cell(i).accessible;
-    const bool presented = it.role != platform::Accessible::Role::none;
-    actions += presented ? std::to_string(it.actions.size()) : ".";
-    actions += columnOf(i) == gridSide ? "\n" : "";
-  }
-  EXPECT_EQ(actions,
-            "2121202\n"
-            "1.1.1.1\n"
-            "2121200\n"
-            "1.1.1.1\n"
-            "2121200\n"
-            "0.0.0.0\n"
-            "2101002\n");
-}
-
 struct LayoutTest : testing::Test {
   Form1 form;
 
@@ -76,31 +48,8 @@ TEST_F(LayoutTest, EverythingLiesOnWholePixelsWithinItsHolder) {
   expectOnWholePixelsWithin(about.clientWidth, about.clientHeight, about.controls);
 }
 
-TEST_F(LayoutTest, CellsTouchOrOverlapByTwoPixels) {
-  for (int i = 1; i + gridSide + 1 <= gridCells; ++i) {
-    if (columnOf(i) == gridSide) continue;
-    const auto& next = form.board.GridDisp[i + gridSide + 1].place;
-    const auto& it = form.board.GridDisp[i].place;
-    EXPECT_EQ((it.left + it.width - next.left) % 30, 0) << "to the right of cell " << i;
-    EXPECT_EQ((it.top + it.height - next.top) % 30, 0) << "below cell " << i;
-  }
-}
-
-TEST_F(LayoutTest, MenuHasGroups) {
-  Log captions;
-  for (const auto* item : form.Gamex.items) captions.push_back(item->caption());
-  EXPECT_EQ(captions,
-            (Log{"Start a Solution", "Show Solution", "-", "Set a Puzzle for computer to solve",
-                 "-", "Print", "-", "Help", "About", "-", "Exit"}));
-}
-
 TEST_F(LayoutTest, FaceIsSymmetrical) {
   for (const auto row : smilingFace.rows) EXPECT_EQ(row, std::string(row.rbegin(), row.rend()));
-}
-
-TEST_F(LayoutTest, CalculatorHasFourRowsOfKeys) {
-  const std::set<std::string_view> rows(calculator.rows.begin(), calculator.rows.end());
-  EXPECT_EQ(rows.size(), 11) << "seven of its body and its display, and one of each row of keys";
 }
 
 TEST(AboutTest, NamesTheProgramItsAuthorsAndItsVersion) {

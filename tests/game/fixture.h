@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "app/game.h"
-#include "drawing.h"
+#include "game/invariants.h"
 
 namespace tessoro::test {
 

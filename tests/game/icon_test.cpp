@@ -17,7 +17,9 @@ TEST(IconTest, InstalledIconIsThePictureOfTheWindows) {
                         R"re( fill="#(\w\w)(\w\w)(\w\w)")re");
   for (std::sregex_iterator it(svg.begin(), svg.end(), rect); it != std::sregex_iterator(); ++it) {
     const auto number = [&](int group) { return std::stoul((*it)[group]); };
-    const auto byte = [&](int group) { return std::stoul((*it)[group], nullptr, 16); };
+    const auto byte = [&](int group) -> std::uint32_t {
+      return std::stoi((*it)[group], nullptr, 16);
+    };
     const auto colour = platform::rgb(byte(5), byte(6), byte(7));
     const auto* const found = std::ranges::find(platform::palette, colour);
     const char pixel = "0123456789ABCDEF?"[found - platform::palette.begin()];

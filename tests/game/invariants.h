@@ -7,9 +7,31 @@
 
 #include "app/game.h"
 #include "app/spoken_board.h"
-#include "game/drawing.h"
 
 namespace tessoro::test {
+
+/// The 7 by 7 cells as the player sees them: '.' is an empty one, '#' a hole.
+inline std::string drawnGrid(const Board& board) {
+  std::string drawn;
+  for (int i = 1; i <= gridCells; ++i) {
+    const Cell& it = board.GridDisp[i];
+    const char* none = it.backcolor() == ColBlack ? "#" : ".";
+    drawn += it.caption().empty() ? none : it.caption();
+    drawn += columnOf(i) == gridSide ? '\n' : ' ';
+  }
+  return drawn;
+}
+
+/// What stands beside the four corners: ":)", the number to reach, or "." for nothing.
+inline std::string drawnCorners(const Board& board) {
+  std::string drawn;
+  for (int k = 1; k <= 4; ++k) {
+    const Cell& target = board.GridDisp[OuterCornerCells[k]];
+    if (k > 1) drawn += ' ';
+    drawn += board.NPict[k].Visible() ? ":)" : target.Visible() ? target.caption() : ".";
+  }
+  return drawn;
+}
 
 /// What holds after every event, whatever the player does. Watches one game.
 class Invariants {
@@ -40,7 +62,6 @@ class Invariants {
     if (onGrid && now_.texts[pressed] != before.texts[pressed] &&
         !said.starts_with(spoken(now_.texts[pressed])))
       return "A press is answered first with what its cell shows";
-    if (moved && !changesAreSaid(before, said)) return "Whatever a move changes is said";
     return {};
   }
 
@@ -119,6 +140,8 @@ class Invariants {
     const char kind = corner ? '?' : kinds[index];
     const std::string_view texts = kind == '+' ? "+-*" : kind == '=' ? "=" : "123456789?";
     const bool shows = it.caption().empty() ? kind != '=' : texts.find(it.caption()) != texts.npos;
+    const unsigned actions = corner || kind == '1' ? 2 : kind == '+' ? 1 : 0;
+    if (it.accessible.actions.size() != actions) return false;
     if (!corner)
       return shows && it.Visible() && it.enabled() == (kind == '1' || kind == '+') &&
              it.backcolor() == (kind == '#' ? ColBlack : platform::buttonFace);
@@ -168,25 +191,6 @@ class Invariants {
     for (int k = 1; k <= 4; ++k) {
       const int target = game_.state.*cornerTargets[k];
       if (target > 0 && solved[CornerCells[k]] != std::to_string(target)) return false;
-    }
-    return true;
-  }
-
-  bool changesAreSaid(const Position& before, const std::string& said) const {
-    const auto isSaid = [&](const std::string& text) { return said.find(text) != said.npos; };
-    if (before.texts[21].empty()) return isSaid(", no line has a value yet");
-    for (int i = 1; i <= gridCells; ++i) {
-      const std::string& now = now_.texts[i];
-      if (kinds[i] != '?' || now == before.texts[i]) continue;
-      const std::string line = i == 49            ? "total"
-                               : columnOf(i) == 7 ? "row " + std::to_string(rowOf(i))
-                                                  : "column " + std::to_string(columnOf(i));
-      if (!isSaid(", " + line + (now != "?" ? " is " + now : " "))) return false;
-      const int k = game_.search.SolveFound() ? cornerOf(i) : 0;  // else there is no puzzle
-      const std::string target = k == 0 ? "none" : cell(OuterCornerCells[k]).caption();
-      if (now == target && !isSaid(cornerName(k) + " is correct")) return false;
-      if (before.texts[i] == target && !isSaid(cornerName(k) + " is wrong, target " + target))
-        return false;
     }
     return true;
   }

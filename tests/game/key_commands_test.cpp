@@ -18,22 +18,6 @@ TEST_F(KeyCommandsTest, PAndXNeedNoShift) {
   EXPECT_EQ(caption(18), "*");
 }
 
-TEST_F(KeyCommandsTest, AStatedCornerIsTypedAndStepped) {
-  choose("Set a Puzzle for computer to solve");
-  type(49, '3');
-  type(49, '+');
-  EXPECT_EQ(caption(49), "4");
-}
-
-TEST_F(KeyCommandsTest, TypingWhatACornerShowsLetsItBeSolvedAgain) {
-  choose("Set a Puzzle for computer to solve");
-  turn(1, "7 . . . . . 1");
-  turn(43, "3 . . . . . 8");
-  click(form.Solveit);
-  type(1, '7');
-  EXPECT_TRUE(form.Solveit.enabled());
-}
-
 TEST_F(KeyCommandsTest, NGoesToTheNextEmptyCellAndShiftNToTheOneBefore) {
   turn(15, "5 + 3 -");
   type(15, 'n');

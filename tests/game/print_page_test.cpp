@@ -47,13 +47,6 @@ TEST_F(PrintPageTest, FourthPuzzleTakesThePlaceOfTheFirst) {
   EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 4, 2, 3 [Yes] [No]");
 }
 
-TEST_F(PrintPageTest, LongNumberIsListedWhole) {
-  game.state.PuzzleNo = 32766;
-  makePuzzle();
-  choose("Print");
-  EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 32767 [Yes] [No]");
-}
-
 TEST_F(PrintPageTest, IsNotPrintedOnNo) {
   choose("Print");
   EXPECT_EQ(desktop.printed, "");

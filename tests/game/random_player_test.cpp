@@ -3,7 +3,6 @@
 #include <random>
 
 #include "fixture.h"
-#include "invariants.h"
 
 namespace tessoro::test {
 
