@@ -33,6 +33,7 @@ struct LayoutTest : testing::Test {
     for (const auto& control : controls) {
       const auto& it = std::visit([](auto* any) { return any->place; }, control);
       for (const int length : {it.left, it.top, it.width, it.height}) EXPECT_EQ(length % 15, 0);
+      EXPECT_GT(it.width, 0);
       if (it.left > width) continue;  // out of sight
       EXPECT_LE(it.left + it.width, width + 4);
       EXPECT_LE(it.top + it.height, height);

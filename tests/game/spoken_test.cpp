@@ -12,6 +12,12 @@ TEST_F(SpokenTest, LastMoveIsSaidBeforeItsBox) {
                                "You got it ! [OK]"}));
 }
 
+TEST_F(SpokenTest, CornerThatIsStillWrongIsSaidWithItsTarget) {
+  solveExcept(33);
+  press(33);
+  EXPECT_EQ(lastSaid(), "1, row 5 is 3, column 5 is 6, total is 9, target 8");
+}
+
 TEST_F(SpokenTest, FirstMoveSaysThatNoLineHasAValue) {
   press(17);
   EXPECT_EQ(lastSaid(), "1, no line has a value yet");
