@@ -33,13 +33,6 @@ TEST_F(KeyCommandsTest, NGoesRoundFromTheLastToTheFirst) {
   EXPECT_EQ(focused, 46);
 }
 
-TEST_F(KeyCommandsTest, NGoesFromTheButtonToTheFirstOrTheLast) {
-  type(form.NewPuz, 'n');
-  EXPECT_EQ(focused, 2);
-  type(form.NewPuz, 'N');
-  EXPECT_EQ(focused, 46);
-}
-
 TEST_F(KeyCommandsTest, ShiftNGoesFromSolvePuzzleToTheLastCornerToSet) {
   choose("Set a Puzzle for computer to solve");
   press(49);
@@ -51,16 +44,6 @@ TEST_F(KeyCommandsTest, NSaysThatNoOtherCellIsEmpty) {
   solveExcept(33);
   type(33, 'n');
   EXPECT_EQ(lastSaid(), "No other cell is empty");
-}
-
-TEST_F(KeyCommandsTest, LSaysTheFirstPuzzleWhereNothingHasBeenSaid) {
-  type(form.NewPuz, 'l');
-  EXPECT_EQ(lastSaid(), "Corners: top left 7, top right 1, bottom left 3, bottom right 8");
-}
-
-TEST_F(KeyCommandsTest, RReadsTheTargetOfACornerBeforeTheFirstMove) {
-  type(3, 'r');
-  EXPECT_EQ(lastSaid(), "Row 1: 7 empty empty empty empty, no value, target 1");
 }
 
 TEST_F(KeyCommandsTest, ButtonIsInNoRowAndNoColumnAndTakesNoDigit) {

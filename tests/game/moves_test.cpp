@@ -36,10 +36,6 @@ TEST_F(MovesTest, RightPressCountsDown) {
   EXPECT_EQ(shownByPresses(17, right, 10), " 9 8 7 6 5 4 3 2 1 9");
 }
 
-TEST_F(MovesTest, AnyOtherButtonCountsUp) {
-  EXPECT_EQ(shownByPresses(17, middle, 3), " 1 2 3");
-}
-
 TEST_F(MovesTest, EveryButtonTakesAnOperatorOn) {
   EXPECT_EQ(shownByPresses(18, left, 4), " + - * +");
   EXPECT_EQ(shownByPresses(18, right, 4), " - * + -");

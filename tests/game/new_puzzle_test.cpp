@@ -35,13 +35,6 @@ TEST_F(NewPuzzleTest, IsInPlayAfterOneThatIsOver) {
   EXPECT_EQ(caption(17), "1");
 }
 
-TEST_F(NewPuzzleTest, ShowSolutionShowsItUnderFourFaces) {
-  choose("Show Solution");
-  EXPECT_EQ(grid(), solution);
-  EXPECT_EQ(corners(), ":) :) :) :)");
-  EXPECT_FALSE(form.RightMess.Visible());
-}
-
 TEST_F(NewPuzzleTest, StartASolutionFillsTheBoardAtRandomAndGoesOn) {
   choose("Show Solution");
   nextDigits = "9129315941199999";  // four to a row: the results are worked out instead

@@ -18,16 +18,6 @@ TEST_F(SearchTest, HelpOpensWhileItRuns) {
   EXPECT_EQ(desktop.opened.at(1), "qaviro.hlp");
 }
 
-TEST_F(SearchTest, AboutOpensWhileItRuns) {
-  chooseWhileSearching("About");
-  EXPECT_EQ(desktop.opened.at(0), "About Tessoro");
-}
-
-TEST_F(SearchTest, PrintLeavesOutThePuzzleInTheMaking) {
-  chooseWhileSearching("Print");
-  EXPECT_EQ(desktop.said.at(0), "Print Puzzle No(s): 1 [Yes] [No]");
-}
-
 TEST_F(SearchTest, ProgramEndsInTheMiddleOfIt) {
   EXPECT_THROW(chooseWhileSearching("Exit"), ProgramEnded);
   EXPECT_THROW(form.unload(), ProgramEnded);

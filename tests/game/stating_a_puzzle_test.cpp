@@ -54,12 +54,6 @@ TEST_F(StatingAPuzzleTest, SearchIsGivenUpAfter500Attempts) {
   EXPECT_EQ(game.state.PuzzleNo, 1) << "the number is not used up";
 }
 
-TEST_F(StatingAPuzzleTest, RightPressOnSolvePuzzleOpensABox) {
-  press(3);
-  form.Solveit.press({.button = platform::MouseButton::right});
-  EXPECT_EQ(lastSaid(), "Help Here [OK]");
-}
-
 TEST_F(StatingAPuzzleTest, LeavingKeepsTheBoardAndTakesNoMove) {
   state("7138");
   choose("End computer solution mode");
