@@ -8,7 +8,7 @@
 /// The main window in words, for players who do not see it.
 namespace tessoro {
 
-/// A result, while its line is not full.
+/// Spoken for a result whose line is not full.
 constexpr std::string_view noValue = "no value";
 
 /// Gives each control its role, its name in words and its actions.

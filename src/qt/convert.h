@@ -13,7 +13,7 @@
 /// Qt's equivalents of the texts, colours, fonts and pictures of controls.
 namespace qt {
 
-/// How many twips make a device-independent pixel, without zoom.
+/// Twips per device-independent pixel, without zoom.
 constexpr double twipsPerPixel = 15;
 
 /// Converts a text in UTF-8.
