@@ -26,8 +26,8 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
 }
 
 void Game::connectEvents() {
-  // A running search yields to events. What would change the board or speak of it is dropped then:
-  // the search is about to replace the board.
+  // Handlers can run while a search yields. Those that change the board or speak about it then do
+  // nothing, because the search is about to replace it.
   const auto unlessSearching = [this](auto handler) {
     return [this, handler](auto... arguments) {
       if (search.underWay()) return decltype(handler(arguments...))();
@@ -47,7 +47,7 @@ void Game::connectEvents() {
       return keyCommands.typed(index, character, shift);
     });
   };
-  // A screen reader may give the focus to what stands beside the grid, too.
+  // Cells beside the grid can get the focus from a screen reader, but have no row or column.
   for (int index = 1; index <= gridCells; ++index)
     takeCharacters(form.board.GridDisp[index], index);
   takeCharacters(form.NewPuz, 0);

@@ -10,12 +10,12 @@ namespace {
 
 using platform::MouseButton;
 
-/// Returns the character that a letter stands for, so that plus and times need no Shift key.
+/// Returns the operator that a letter stands for, so that plus and times need no Shift key.
 char withoutShift(char character) {
   return character == 'p' ? '+' : character == 'x' ? '*' : character;
 }
 
-/// Returns whether a player may expect the character to set something.
+/// Returns whether a player may expect the character to set a cell.
 bool isForSetting(char character) {
   return std::string_view("0123456789+-*").find(character) != std::string_view::npos;
 }
@@ -50,7 +50,7 @@ void KeyCommands::goToEmpty(int from, bool backwards) {
     if (index == from) break;
     const Cell& cell = form_.board.GridDisp[index];
     const bool isEmpty = cell.caption().empty() || cell.caption() == noNumber;
-    if (isEmpty && moves_.takes(index)) return cell.SetFocus();
+    if (isEmpty && moves_.canSet(index)) return cell.SetFocus();
   }
   narrator_.explainNoneEmpty();
 }
@@ -59,12 +59,12 @@ void KeyCommands::set(int index, char character) {
   if (index == 0) return narrator_.explainTyping(index);
   Cell& cell = form_.board.GridDisp[index];
   const bool isOperator = roleOf(index) == CellRole::operatorSign;
-  const bool isTaken = moves_.takes(index);
+  const bool isSettable = moves_.canSet(index);
   if (!cell.enabled()) {
     narrator_.explainRefusal(index);
-  } else if (isTaken && !isOperator && (character == '+' || character == '-')) {
+  } else if (isSettable && !isOperator && (character == '+' || character == '-')) {
     cell.press({.button = character == '+' ? MouseButton::left : MouseButton::right});
-  } else if (isTaken && !moves_.fits(index, character)) {
+  } else if (isSettable && !moves_.fits(index, character)) {
     moves_.typeCharacter(index, character);
     narrator_.explainTyping(index);
   } else {

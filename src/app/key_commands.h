@@ -6,16 +6,15 @@
 
 namespace tessoro {
 
-/// What typed characters do: set a cell, ask what the board shows, or go to the next empty cell. P
-/// types a plus and X a times.
+/// Handlers of typed characters, which set a cell, read out part of the board, or move to the next
+/// empty cell. P types a plus and X a times sign.
 class KeyCommands {
  public:
   KeyCommands(Form1& form, Moves& moves, Narrator& narrator)
       : form_(form), moves_(moves), narrator_(narrator) {}
 
-  /// Handles a character typed on cell 1..49, or on a button with 0. Letters come in lower case,
-  /// and `shift` says whether that key was down. Returns whether the character has a meaning
-  /// there.
+  /// Handles a character, in lower case, typed on cell 1..49, or on a button with index 0. `shift`
+  /// says whether that key was down. Returns whether the character has a meaning there.
   bool typed(int index, char character, bool shift);
 
  private:

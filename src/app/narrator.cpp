@@ -52,8 +52,8 @@ void Narrator::sayOutcome() {
 }
 
 Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
-  return [this, cell, before = heard(), taken = moves_.takes(cell)] {
-    if (!taken) return whyNotSet(cell);
+  return [this, cell, before = heard(), settable = moves_.canSet(cell)] {
+    if (!settable) return whyNotSet(cell);
     const std::string shown = spoken(form_.board.GridDisp[cell].caption());
     return state_.SolveMode ? shown : shown + changesSince(before);
   };
@@ -77,7 +77,7 @@ std::string Narrator::changesSince(const Heard& before) const {
     if (result == before.results[cell]) continue;
     words += ", " + lineName(cell) + changedValue(result);
     const int k = cornerOf(cell);
-    // A corner that is still wrong: its new value is of use only beside its target.
+    // A corner that is still wrong: its new value helps only together with its target.
     if (result != noValue && now.standings[k] == before.standings[k]) words += now.standings[k];
   }
   for (int k = 1; k <= 4; ++k) {

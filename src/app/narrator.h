@@ -12,7 +12,7 @@
 
 namespace tessoro {
 
-/// Says what each press and command has changed, for players who do not see the board: one sentence
+/// Spoken feedback on presses and commands, for players who do not see the board: one sentence
 /// each, as short as possible, since they hear it a hundred times in a puzzle. The names of cells
 /// and buttons come from the controls instead.
 class Narrator {
@@ -23,12 +23,12 @@ class Narrator {
            const SolutionSearch& search, platform::Desktop& desktop)
       : form_(form), state_(state), moves_(moves), search_(search), desktop_(desktop) {}
 
-  /// Has a screen reader speak the sentence, unless it is empty.
+  /// Makes a screen reader speak the sentence, unless it is empty.
   void say(const std::string& sentence);
-  /// Says the last sentence again, or what there is to say of the first puzzle.
+  /// Says the last sentence again, or describes the first puzzle if there is none.
   void repeat();
 
-  /// Runs an event's handler and says its outcome, which is worded only then.
+  /// Runs an event's handler, then calls `outcome` and says what it returns.
   void narrate(const std::function<void()>& handler, Sentence outcome);
   /// Says the outcome of the handler that is running, before the handler shows a message box.
   void sayOutcome();
@@ -41,12 +41,12 @@ class Narrator {
   void explainRefusal(int cell) { say(whyNotSet(cell)); }
   /// Says why a press on the disabled button "Solve Puzzle" did nothing.
   void explainDisabledSolveit() { say(whyNotSolved()); }
-  /// Says what belongs in cell 1..49, or on a button with 0, after a character that does not.
+  /// Says what can be typed on cell 1..49, or on a button with 0, after a character that cannot.
   void explainTyping(int cell);
   /// Says why there is no empty cell to go to.
   void explainNoneEmpty();
 
-  // The outcomes of commands; empty where only a message box is to be heard.
+  // The outcomes of commands; empty where a message box says enough.
   std::string firstPuzzle() const;   ///< of the search at the start
   std::string puzzleMade() const;    ///< of "New Puzzle"
   std::string puzzleSolved() const;  ///< of "Solve Puzzle"
@@ -54,7 +54,7 @@ class Narrator {
   std::string modeSwitched() const;  ///< of entering or leaving the mode that sets puzzles
 
  private:
-  /// What a player has heard of the board.
+  /// Results and corners as the player last heard them.
   struct Heard {
     std::array<std::string, gridCells + 1> results;  ///< in words, of the cells that are results
     std::array<std::string, 5> standings;            ///< of the corners 1..4

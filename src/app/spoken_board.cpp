@@ -58,7 +58,7 @@ std::vector<Line> linesEndingIn(const Board& board, int cell) {
   return lines;
 }
 
-/// Returns the end of a line: its value and, if it ends in a corner, how that compares.
+/// Returns the end of a line: its value and, if it ends in a corner, the corner's standing.
 std::string endOfLine(const Line& line) {
   const int result = line.cellAt(6);
   const int k = cornerOf(result);
@@ -83,12 +83,8 @@ std::string spokenLine(const std::string& name, const Line& line) {
   return ends ? words + endOfLine(line) : words;
 }
 
-Accessible::Action press() {
-  return {"Press", MouseButton::left};
-}
-Accessible::Action decrease() {
-  return {"Decrease", MouseButton::right};
-}
+constexpr Accessible::Action press{"Press", MouseButton::left};
+constexpr Accessible::Action decrease{"Decrease", MouseButton::right};
 
 /// Returns what a cell shows, then its place.
 std::string describe(int index, const Board& board) {
@@ -100,27 +96,23 @@ Accessible describedCell(int index, const Board& board) {
   const auto name = [index, &board] { return describe(index, board); };
   switch (roleOf(index)) {
     case CellRole::number:
-      return {Accessible::Role::button, name, {press(), decrease()}, true};
+      return {Accessible::Role::button, name, {press, decrease}, true};
     case CellRole::operatorSign:
-      return {Accessible::Role::button, name, {press()}, true};
-    case CellRole::equals:
-    case CellRole::rowResult:
-    case CellRole::columnResult:
-    case CellRole::grandResult:
-      return {Accessible::Role::label, name, {}, true};
+      return {Accessible::Role::button, name, {press}, true};
     case CellRole::hole:
     case CellRole::outerCorner:
     case CellRole::spare:
-      break;
+      return {};
+    default:
+      return {Accessible::Role::label, name, {}, true};
   }
-  return {};
 }
 
 void describeCorner(int k, Board& board) {
   const auto name = [k, &board] { return describe(CornerCells[k], board) + standing(board, k); };
   // The user sets the corners' numbers when stating a puzzle.
   board.GridDisp[CornerCells[k]].accessible = {
-      Accessible::Role::button, name, {press(), decrease()}, true};
+      Accessible::Role::button, name, {press, decrease}, true};
   Cell& target = board.GridDisp[OuterCornerCells[k]];
   target.accessible = {Accessible::Role::label,
                        [k, &target] { return cornerName(k) + " target " + target.caption(); },
@@ -130,7 +122,7 @@ void describeCorner(int k, Board& board) {
 }
 
 void describeButton(Cell& button) {
-  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press()}};
+  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press}};
 }
 
 }  // namespace

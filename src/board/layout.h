@@ -7,7 +7,7 @@
 #include "platform/control.h"
 
 /// Layout of the board and roles of its cells. Cells 1..49 are the 7 by 7 grid, row by row; 50..53
-/// lie outside its corners; 0 is a spare out of sight.
+/// lie outside its corners; 0 is unused and lies outside the window.
 namespace tessoro {
 
 constexpr int gridSide = 7;

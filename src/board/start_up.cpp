@@ -18,28 +18,14 @@ void StartUp::Form_Load() {
 
 void StartUp::setLook(int index) {
   Cell& cell = board_.GridDisp[index];
-  switch (roleOf(index)) {
-    case CellRole::outerCorner:
-      cell.Visible = false;
-      cell.backcolor = ColGreen;
-      cell.forecolor = ColWhite;
-      cell.enabled = false;
-      break;
-    case CellRole::hole:
-      cell.backcolor = ColBlack;
-      cell.enabled = false;
-      break;
-    case CellRole::equals:
-    case CellRole::rowResult:
-    case CellRole::columnResult:
-    case CellRole::grandResult:
-      cell.enabled = false;
-      break;
-    case CellRole::number:
-    case CellRole::operatorSign:
-    case CellRole::spare:
-      break;
-  }
+  const CellRole role = roleOf(index);
+  cell.enabled =
+      role == CellRole::number || role == CellRole::operatorSign || role == CellRole::spare;
+  if (role == CellRole::hole) cell.backcolor = ColBlack;
+  if (role != CellRole::outerCorner) return;
+  cell.Visible = false;
+  cell.backcolor = ColGreen;
+  cell.forecolor = ColWhite;
 }
 
 }  // namespace tessoro

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/mouse.h"
@@ -12,9 +13,9 @@ namespace platform {
 struct Accessible {
   enum class Role { none, label, button, image };
 
-  /// Named action on an enabled control; it acts as a press of the mouse button.
+  /// Named action on an enabled control. It presses the mouse button on the control.
   struct Action {
-    std::string name;
+    std::string_view name;
     MouseButton button = MouseButton::left;
   };
 

@@ -12,8 +12,8 @@ namespace platform {
 /// Display cell: a short text with its own colours and border that reports mouse and key input.
 ///
 /// The window passes on every mouse press and release. The cell decides which of them become
-/// events, so that a disabled or hidden cell is silent in any window. A cell with a `click` handler
-/// is a button, whose caption is greyed while it is disabled.
+/// events, so that a disabled or hidden cell never raises one, whatever window shows it. A cell
+/// with a `click` handler is a button, whose caption is greyed while it is disabled.
 class CellPane final : public Control {
  public:
   Property<std::string> caption{*this, ""};

@@ -8,37 +8,31 @@
 
 namespace platform {
 
-/// What the program asks of the desktop it runs on, besides showing its controls.
+/// Services of the desktop that the program uses, besides showing its controls.
 class Desktop {
  public:
   /// `yesNo` has Yes as its default, the button that Return presses.
   enum class Buttons { ok, yesNo, yesNoDefaultNo };
   enum class Answer { ok, yes, no };
 
-  Desktop() = default;
-  Desktop(const Desktop&) = delete;
-  Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
 
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
   virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
-  /// Has a screen reader, if one listens, speak the sentence.
+  /// Makes a screen reader, if one is running, speak the sentence.
   virtual void announce(std::string_view sentence) = 0;
 
-  /// Lets the windows process their pending events; their handlers run inside the call.
+  /// Processes the windows' pending events; their handlers run inside the call.
   virtual void yield() = 0;
 
   /// Returns the time of day in seconds since midnight, with fractions: 0 <= t < 86400.
   virtual double secondsSinceMidnight() = 0;
 
-  /// Shows the form modal over the main window, which takes no input meanwhile, and returns when
-  /// the form has been closed.
+  /// Shows the form modal over the main window and returns when the form has been closed.
   virtual void showModal(Form& form) = 0;
 
-  /// The printer that pages are sent to.
   virtual Printer& printer() = 0;
-  /// The viewer of help files.
   virtual HelpViewer& helpViewer() = 0;
 
   /// Ends the program at once: no further handler runs, and the windows close with it.

@@ -12,9 +12,6 @@ constexpr unsigned HELP_CONTENTS = 3;
 /// Viewer of help files in a modeless window.
 class HelpViewer {
  public:
-  HelpViewer() = default;
-  HelpViewer(const HelpViewer&) = delete;
-  HelpViewer& operator=(const HelpViewer&) = delete;
   virtual ~HelpViewer() = default;
 
   /// Opens the help file, named without a path, and returns whether it is shown. The viewer itself

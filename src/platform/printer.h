@@ -8,9 +8,6 @@ namespace platform {
 /// next document.
 class Printer {
  public:
-  Printer() = default;
-  Printer(const Printer&) = delete;
-  Printer& operator=(const Printer&) = delete;
   virtual ~Printer() = default;
 
   /// Sets the fixed-pitch typeface.
@@ -21,7 +18,7 @@ class Printer {
   virtual void printLine(std::string_view text) = 0;
 
   /// Sends the document to the printer and discards it. Returns when the print system has accepted
-  /// it, or the user has read that it failed or may have failed. The main window ignores input
+  /// it, or when the user has closed the message about a failure. The main window ignores input
   /// until then.
   virtual void endDocument() = 0;
 };

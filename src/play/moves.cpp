@@ -9,8 +9,8 @@
 namespace tessoro {
 namespace {
 
-/// Returns the next digit: 1 after 9 upwards, 9 after 1 downwards. A caption without a digit counts
-/// as 0.
+/// Returns the digit one up or down, wrapping between 9 and 1. A caption without a digit counts as
+/// 0.
 std::string nextDigit(std::string_view caption, platform::MouseButton button) {
   const bool down = button == platform::MouseButton::right;
   const int digit = readNumber(caption) + (down ? -1 : 1);
@@ -32,7 +32,7 @@ void Moves::GridDisp_MouseDown(int Index, const platform::MousePress& press) {
   setCell(Index, isOperator(Index) ? nextOperator(caption) : nextDigit(caption, press.button));
 }
 
-bool Moves::takes(int index) const {
+bool Moves::canSet(int index) const {
   if (state_.SolveMode) return cornerOf(index) != 0;
   return board_.GridDisp[index].enabled() && !state_.BoardLocked;
 }
@@ -56,7 +56,7 @@ void Moves::setCell(int index, const std::string& caption) {
   // While a puzzle is stated, an event on any cell wakes the button, even if nothing is set.
   if (state_.SolveMode) Solveit_.enabled = true;
   Cell& cell = board_.GridDisp[index];
-  if (!takes(index) || cell.caption() == caption) return;
+  if (!canSet(index) || cell.caption() == caption) return;
   if (state_.SolveMode) {
     cell.caption = caption;
     state_.*cornerTargets[cornerOf(index)] = readNumber(caption);

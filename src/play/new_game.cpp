@@ -21,8 +21,6 @@ void NewGame::StartSolx_Click() {
   // Draws digits for the results, too; updateAll() overwrites them.
   for (int k = 1; k <= 16; ++k) {
     board_.GridDisp[numberCells[k]].caption = numberText(digits_.draw());
-  }
-  for (int k = 1; k <= 16; ++k) {
     board_.GridDisp[operatorCells[k]].caption = std::string(OpPlus);
   }
   board_.GridDisp[CornerCells[1]].caption = std::string(trimmed(state_.SolNumbers[1]));

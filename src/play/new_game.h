@@ -28,7 +28,8 @@ class NewGame {
 
   /// Leaves set-a-puzzle mode if it is on, clears the board and makes a new puzzle.
   void NewPuz_Click();
-  /// Fills the board with random numbers and "+" as a start; the puzzle's own number stays.
+  /// Fills the board with random numbers and "+" as a start, except the given number at the top
+  /// left.
   void StartSolx_Click();
 
  private:

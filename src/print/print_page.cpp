@@ -66,12 +66,8 @@ void PrintPage::write(int heading, int grid, int cell, char text) {
 void PrintPage::RecordPuzzleForPrint() {
   const int heading = headings[(state_.PuzzleNo - 1) % 3];
   const std::string number = signedNumberText(state_.PuzzleNo);
-  std::string& line = PrintLines[heading];
-  line = headingText;
-  line += number;
-  line.append(28, ' ');
-  line += "Solution to Puzzle No";
-  line += number;
+  PrintLines[heading] =
+      std::string(headingText) + number + std::string(28, ' ') + "Solution to Puzzle No" + number;
 
   for (int k = 1; k <= 4; ++k) {
     const int cell = CornerCells[k];

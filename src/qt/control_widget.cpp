@@ -97,7 +97,7 @@ ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place,
       name_(accessible().name()),
       disabled_(isDisabled()) {
   QAccessible::installFactory(controlInterface);  // has no effect the second time
-  // The view draws, also when this widget is shown or hidden.
+  // Only the view draws, even when this widget is shown or hidden.
   setUpdatesEnabled(false);
   setGeometry(view.rectOf(place));
   setVisible(base(control).Visible());

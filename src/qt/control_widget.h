@@ -11,8 +11,8 @@ namespace qt {
 
 class FormView;
 
-/// Invisible widget over a control that a form's view draws. With it Qt handles focus, mouse grab,
-/// hit testing and the accessible tree.
+/// Invisible widget over a control that a form's view draws. Through it, Qt handles focus, mouse
+/// grab, hit testing and the accessible tree.
 class ControlWidget final : public QWidget {
  public:
   /// The control must outlive the widget.
@@ -23,7 +23,7 @@ class ControlWidget final : public QWidget {
   /// Returns what the control presents to accessibility clients.
   const platform::Accessible& accessible() const { return base(control_).accessible; }
   /// Returns whether the control is a disabled cell. The widget itself stays enabled, so that the
-  /// cell can still be read and can say why it does nothing.
+  /// cell can still be read and can explain why it does nothing.
   bool isDisabled() const;
 
   /// Notifies accessibility clients of a changed name or state. Qt reports by itself what is shown

@@ -10,10 +10,10 @@
 
 #include "platform/control.h"
 
-/// Qt's equivalents of the texts, colours, fonts and pictures of controls.
+/// Conversion of the controls' texts, colours, fonts and pictures to Qt's types.
 namespace qt {
 
-/// How many twips make a device-independent pixel, without zoom.
+/// Twips per device-independent pixel, without zoom.
 constexpr double twipsPerPixel = 15;
 
 /// Converts a text in UTF-8.
@@ -40,7 +40,7 @@ QImage toQImage(const platform::Picture& picture, int size);
 /// Returns the picture as an icon in whole multiples of its own size, which are sharp.
 QIcon toQIcon(const platform::Picture& picture);
 
-/// Registers substitutes for typefaces that a machine may not have.
+/// Registers substitutes for typefaces that a machine may lack.
 void substituteFonts();
 
 }  // namespace qt

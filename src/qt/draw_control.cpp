@@ -105,7 +105,7 @@ void drawControl(const DrawnControl& control, const Look& look, const Canvas& ca
   std::visit([&](const auto* it) { draw(*it, look, canvas); }, control);
 }
 
-/// The ring has bright lines between dark ones, because either stands out on every colour.
+/// The ring has bright lines between dark ones, because one of the two stands out on any colour.
 void drawRing(const Canvas& canvas) {
   constexpr platform::Colour dark = platform::palette[0];
   constexpr platform::Colour bright = platform::palette[14];

@@ -18,7 +18,7 @@ inline platform::Control& base(const DrawnControl& control) {
   return std::visit([](auto* it) -> platform::Control& { return *it; }, control);
 }
 
-/// What a control looks like at some moment.
+/// Properties that decide how a control is drawn, at some moment.
 struct Look {
   bool visible = true;
   bool greyed = false;
@@ -28,11 +28,11 @@ struct Look {
   bool operator==(const Look&) const = default;
 };
 
-/// Where and how a control is drawn, in pixels of the screen.
+/// Target of drawing one control, in pixels of the screen.
 struct Canvas {
   QPainter& painter;
   QRect rect;        ///< the control's
-  double scale = 1;  ///< pixels to 15 twips
+  double scale = 1;  ///< pixels per 15 twips
   const QPalette& palette;
   double logicalDpi = 96;
 };

@@ -16,8 +16,8 @@
 namespace qt {
 namespace {
 
-/// Returns the rectangle of a place in a grid of pixels, `scale` of which make a device-independent
-/// pixel and in which the client area begins at `origin`.
+/// Converts a place to pixels, `scale` per device-independent pixel, with the client area's top
+/// left at `origin`.
 QRect pixelRect(const platform::Place& place, double scale, QPoint origin = {}) {
   const auto edge = [&](int twips) {
     return static_cast<int>(std::lround(twips / twipsPerPixel * scale));
@@ -33,8 +33,8 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
   return result;
 }
 
-/// Where a key leads in the grid: first across, then down, each a single step or on to the edge.
-struct Way {
+/// How a key moves the focus in the grid: first across, then down, each by one step or to the edge.
+struct FocusMove {
   int key = 0;
   bool control = false;
   QPoint across;
@@ -46,14 +46,15 @@ constexpr QPoint toLeft(-1, 0);
 constexpr QPoint toRight(1, 0);
 constexpr QPoint upwards(0, -1);
 constexpr QPoint downwards(0, 1);
-constexpr auto ways = std::to_array<Way>({{Qt::Key_Left, false, toLeft, stay, false},
-                                          {Qt::Key_Right, false, toRight, stay, false},
-                                          {Qt::Key_Up, false, stay, upwards, false},
-                                          {Qt::Key_Down, false, stay, downwards, false},
-                                          {Qt::Key_Home, false, toLeft, stay, true},
-                                          {Qt::Key_End, false, toRight, stay, true},
-                                          {Qt::Key_Home, true, toLeft, upwards, true},
-                                          {Qt::Key_End, true, toRight, downwards, true}});
+constexpr auto focusMoves =
+    std::to_array<FocusMove>({{Qt::Key_Left, false, toLeft, stay, false},
+                              {Qt::Key_Right, false, toRight, stay, false},
+                              {Qt::Key_Up, false, stay, upwards, false},
+                              {Qt::Key_Down, false, stay, downwards, false},
+                              {Qt::Key_Home, false, toLeft, stay, true},
+                              {Qt::Key_End, false, toRight, stay, true},
+                              {Qt::Key_Home, true, toLeft, upwards, true},
+                              {Qt::Key_End, true, toRight, downwards, true}});
 
 }  // namespace
 
@@ -70,7 +71,7 @@ FormView::~FormView() {
     base(item.control).changed = nullptr;
     base(item.control).focusWanted = nullptr;
   }
-  // The widgets pass the focus on while they are destroyed.
+  // Destroying the widgets moves the focus.
   disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -129,7 +130,7 @@ void FormView::add(platform::CommandButton* button, const platform::Place& place
   });
 }
 
-/// Waits for the handler to finish or yield, so that what changes and changes back is not drawn.
+/// Waits for the handler to finish or yield, so that a change that it undoes is not drawn.
 void FormView::refreshSoon() {
   if (std::exchange(refreshScheduled_, true)) return;
   QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
@@ -142,7 +143,7 @@ void FormView::refresh() {
     if (item.look != before) updatePlace(item.place);
     if (item.widget != nullptr && item.look.visible) item.widget->show();
   }
-  // Only now, so that the focus can pass to the control shown instead.
+  // Hidden last, so that the focus can move to the control shown instead.
   for (const Item& item : items_) {
     if (item.widget != nullptr && !item.look.visible) hideWidget(*item.widget);
   }
@@ -228,7 +229,7 @@ bool FormView::focusNextPrevChild(bool next) {
 }
 
 ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) const {
-  // Steps of half a control pass over none.
+  // Steps of half a control's width cannot skip a neighbour.
   const QPoint step = direction * (of.width() / 2);
   if (step.isNull()) return nullptr;
   for (QPoint at = of.geometry().center() + step; rect().contains(at); at += step) {
@@ -239,15 +240,15 @@ ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) co
 }
 
 bool FormView::moveFocus(ControlWidget& from, int key, bool control) {
-  const auto* way = std::ranges::find_if(
-      ways, [&](const Way& it) { return it.key == key && it.control == control; });
-  if (way == ways.end()) return false;
+  const auto* found = std::ranges::find_if(
+      focusMoves, [&](const FocusMove& it) { return it.key == key && it.control == control; });
+  if (found == focusMoves.end()) return false;
   setKeysUsed(true);
   ControlWidget* to = &from;
   if (from.accessible().inGrid) {
-    for (const QPoint direction : {way->across, way->down}) {
+    for (const QPoint direction : {found->across, found->down}) {
       for (ControlWidget* next = neighbour(*to, direction); next != nullptr;
-           next = way->toEdge ? neighbour(*to, direction) : nullptr) {
+           next = found->toEdge ? neighbour(*to, direction) : nullptr) {
         to = next;
       }
     }

@@ -11,33 +11,33 @@ namespace qt {
 
 class ControlWidget;
 
-/// The client area of a form. It draws the form's controls and decides where the keys move the
-/// focus; Qt does the rest.
+/// Widget that shows the client area of a form. It draws the form's controls and decides where the
+/// keys move the focus; Qt does the rest.
 ///
 /// All controls are drawn by this one widget, because a widget begins and ends at whole
 /// device-independent pixels. At a scale factor such as 1.25 these are not whole pixels of the
 /// screen, and cells that overlap or touch would show gaps and doubled borders. Here every edge is
-/// rounded to the screen's pixels once, alike for both cells that meet at it. Mouse, keyboard and
-/// accessibility go through one invisible widget per control, laid over its drawing.
+/// rounded to the screen's pixels once, in the same way for both cells that share it. Mouse,
+/// keyboard and accessibility go through one invisible widget per control, laid over its drawing.
 class FormView final : public QWidget {
  public:
-  /// The form has to outlive the view.
+  /// The form must outlive the view.
   FormView(platform::Form& form, double zoom, QWidget* parent);
   ~FormView() override;
 
-  /// The size of the whole client area.
+  /// Returns the size of the whole client area.
   QSize sizeHint() const override;
 
-  /// Counts the controls drawn so far, wholly or in part. Tests and benchmarks use it to see when a
-  /// change has reached the screen and how much else was drawn.
+  /// Returns how many controls have been drawn so far, wholly or in part. Tests and benchmarks use
+  /// it to see when a change has reached the screen and how much else was drawn.
   long drawnControls() const { return drawnControls_; }
 
-  /// Sets whether a handler is yielding. The screen then shows the board as it stands, but
-  /// accessibility clients hear of it only when the handler has finished.
+  /// Sets whether a handler is yielding. The screen then shows the board as it is, but
+  /// accessibility clients are notified only when the handler has finished.
   void setYielding(bool yielding);
 
-  /// Shows the form at the zoom, device-independent pixels to 15 twips. A form's text boxes and
-  /// command buttons keep the zoom they were made with.
+  /// Sets the zoom, in device-independent pixels per 15 twips. Text boxes and command buttons keep
+  /// the zoom they were created with.
   void setZoom(double zoom);
 
   // For the widgets of the controls:
@@ -45,8 +45,8 @@ class FormView final : public QWidget {
   double twipsPerPixel() const { return qt::twipsPerPixel / zoom_; }
   /// Returns the rectangle of a place in the client area, in device-independent pixels.
   QRect rectOf(const platform::Place& place) const;
-  /// Moves the focus where an arrow key, Home or End leads, `control` telling whether Ctrl is down.
-  /// Reports to the form a way that leads off the grid. Returns false for any other key.
+  /// Moves the focus where an arrow key, Home or End leads; `control` says whether Ctrl is down.
+  /// Notifies the form if that is nowhere. Returns false for any other key.
   bool moveFocus(ControlWidget& from, int key, bool control);
   /// Records whether the player works with the keyboard, and shows or hides the focus ring.
   void setKeysUsed(bool used);
@@ -62,12 +62,11 @@ class FormView final : public QWidget {
     DrawnControl control;
     platform::Place place;            ///< in the client area, twips
     Look look;                        ///< as the screen shows it, or will after the next repaint
-    ControlWidget* widget = nullptr;  ///< null if it can be neither read nor pressed
+    ControlWidget* widget = nullptr;  ///< null if the control has no accessible role
   };
 
-  /// Adds the controls, whose places are measured from the top left of their holder.
+  /// Adds the controls, whose places are relative to `holder`.
   void addAll(const platform::Controls& controls, const platform::Place& holder);
-  // Each adds a control at its place in the client area.
   void add(DrawnControl control, const platform::Place& place);
   void add(platform::Frame* frame, const platform::Place& place);
   void add(platform::TextBox* box, const platform::Place& place);

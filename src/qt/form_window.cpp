@@ -31,11 +31,11 @@ FormWindow::FormWindow(platform::Form& form, const Zoom& zoom)
   }
   setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  // Keeps the cursor of a box that closes under the mouse from staying.
+  // Otherwise the cursor of a box that closes under the mouse would stay.
   setCursor(Qt::ArrowCursor);
-  // Qt's own title bars maximise windows of a fixed size too, whatever their flags. The size is
-  // released as soon as that begins, because some desktops end a program that does not accept the
-  // size they set.
+  // Qt's own title bars can maximise a window of fixed size, whatever its flags. The size is
+  // released as soon as that begins, because some desktops terminate a program that does not accept
+  // the size they set.
   create();
   connect(windowHandle(), &QWindow::windowStateChanged, this, [this](Qt::WindowState state) {
     if (state != Qt::WindowMaximized) return;
@@ -46,7 +46,9 @@ FormWindow::FormWindow(platform::Form& form, const Zoom& zoom)
 
 FormWindow::~FormWindow() {
   form_.changed = nullptr;
-  for (platform::MenuItem* item : items_) item->changed = nullptr;
+  for (const platform::MenuItem* menu : form_.menus) {
+    for (platform::MenuItem* item : menu->items) item->changed = nullptr;
+  }
 }
 
 void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
@@ -71,7 +73,6 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
     };
     show();
     entry->changed = show;
-    items_.push_back(entry);
     // Queued, so that an accessibility client that chooses the item does not wait for the box that
     // the item opens.
     connect(
@@ -143,15 +144,14 @@ void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
   if (event->type() == QEvent::FontChange) {
     view_->setZoom(zoom_.factor());
-    // Queued, so that the menu bar has its new font before.
+    // Queued, so that the menu bar already has its new font.
     QMetaObject::invokeMethod(this, [this] { moveOntoScreen(); }, Qt::QueuedConnection);
   }
   if (event->type() != QEvent::WindowStateChange) return;
   if (!isMaximized() && !isFullScreen()) layout()->setSizeConstraint(QLayout::SetFixedSize);
   if (!isMaximized() || !nextRestore_.hasExpired()) return;
-  constexpr int milliseconds = 1000;
-  nextRestore_.setRemainingTime(milliseconds);
-  // Queued, so that the new size has been accepted before, in case the desktop insists on it.
+  nextRestore_.setRemainingTime(1000);  // milliseconds
+  // Queued, so that the maximised size is accepted first, in case the desktop insists on it.
   QMetaObject::invokeMethod(
       this, [this] { windowHandle()->setWindowStates(Qt::WindowNoState); }, Qt::QueuedConnection);
 }

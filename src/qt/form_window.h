@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QMainWindow>
-#include <vector>
 
 #include "platform/form.h"
 #include "qt/announcer.h"
@@ -24,7 +23,7 @@ class FormWindow final : public QMainWindow {
 
   /// Returns the client area.
   FormView& view() const { return *view_; }
-  /// Returns what speaks sentences in this window.
+  /// Returns the announcer of this window.
   Announcer& announcer() { return announcer_; }
 
  protected:
@@ -42,9 +41,8 @@ class FormWindow final : public QMainWindow {
 
   platform::Form& form_;
   const Zoom& zoom_;
-  std::vector<platform::MenuItem*> items_;  ///< those shown by this window
   FormView* view_;
-  /// Until it expires, a maximised window is not restored: the desktop insists.
+  /// A window maximised again before this expires is not restored: the desktop insists.
   QDeadlineTimer nextRestore_;
   Announcer announcer_{*this};
 };

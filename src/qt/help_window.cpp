@@ -22,21 +22,16 @@ namespace {
 constexpr const char* howToRead =
     ". The arrow keys go through the text, Tab to its links, Escape closes it";
 
-/// Returns in one sentence why the file cannot be shown; empty if it can.
+/// Returns what keeps the file from being shown, as the end of a sentence; empty if nothing does.
 QString faultOf(const QString& path) {
-  const QString name = QFileInfo(path).fileName();
   QFile file(path);
-  if (!file.exists()) return QString("The help file \"%1\" cannot be found.").arg(name);
-  if (!file.open(QIODevice::ReadOnly)) {
-    return QString("The help file \"%1\" cannot be read.").arg(name);
-  }
+  if (!file.exists()) return "cannot be found";
+  if (!file.open(QIODevice::ReadOnly)) return "cannot be read";
   const QByteArray content = file.readAll();
-  if (content.trimmed().isEmpty()) return QString("The help file \"%1\" is empty.").arg(name);
+  if (content.trimmed().isEmpty()) return "is empty";
   QStringDecoder decoder(QStringDecoder::Utf8);
   const QString text = decoder(content);
-  if (decoder.hasError() || text.contains(QChar::Null)) {
-    return QString("The help file \"%1\" is damaged: it is not a text.").arg(name);
-  }
+  if (decoder.hasError() || text.contains(QChar::Null)) return "is damaged: it is not a text";
   return {};
 }
 
@@ -136,14 +131,14 @@ bool HelpWindow::showContents(const QString& path) {
     text_->reload();  // the file may have changed
     text_->verticalScrollBar()->setValue(0);
   } else {
-    text_->setPlainText(fault);
+    text_->setPlainText(QString("The help file \"%1\" %2.").arg(QFileInfo(path).fileName(), fault));
   }
   text_->clearHistory();
-  text_->setFocus();  // a button may have it
+  text_->setFocus();  // a tool button may have it
   waitForScreenReader();
   // Spoken once the window is shown.
-  announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead
-                                      : fault);
+  announcer_.announce(text_->document()->firstBlock().text().trimmed() +
+                      (fault.isEmpty() ? howToRead : ""));
   showNormal();
   raise();
   activateWindow();

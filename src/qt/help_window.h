@@ -13,7 +13,7 @@
 
 namespace qt {
 
-/// The text of a help file, with keys for reading: the arrow and page keys scroll, Tab goes from
+/// Text of a help file with keyboard navigation: the arrow and page keys scroll, Tab moves from
 /// link to link.
 class HelpText final : public QTextBrowser {
  public:
@@ -35,7 +35,7 @@ class HelpText final : public QTextBrowser {
 /// Window that shows a help file in the HTML subset of QTextBrowser.
 class HelpWindow final : public QMainWindow {
  public:
-  /// Opens at the size for the zoom, as far as the screen has room.
+  /// Opens as large as the zoom asks for and the screen allows.
   explicit HelpWindow(double zoom);
 
   /// Shows the file at its contents in front of the other windows, or instead a sentence that says
@@ -51,7 +51,7 @@ class HelpWindow final : public QMainWindow {
   QString path_;  ///< of the last file
 };
 
-/// Finds help files in the folders and shows them in one window, made when first needed.
+/// Viewer that finds help files in the folders and shows them in one window, created on first use.
 class QtHelpViewer final : public platform::HelpViewer {
  public:
   QtHelpViewer(QStringList folders, const Zoom& zoom) : folders_(std::move(folders)), zoom_(zoom) {}

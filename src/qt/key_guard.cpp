@@ -5,14 +5,13 @@
 #include <QWindow>
 #include <algorithm>
 #include <array>
-#include <chrono>
 
 #include "qt/control_widget.h"
 
 namespace qt {
 namespace {
 
-constexpr int boxPatience = 500;  // milliseconds
+constexpr int boxDelay = 500;  // milliseconds
 /// The longest time until a held key begins to repeat, in milliseconds.
 constexpr int longestRepeatDelay = 1000;
 
@@ -69,11 +68,6 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   return repeat && pressesSomething(*key);
 }
 
-qint64 KeyGuard::steadyClock() {
-  using namespace std::chrono;
-  return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
-}
-
 /// Qt cannot mark an X server's repeat before the next press of the key has arrived, but the repeat
 /// has the same time stamp as the release sent with it.
 bool KeyGuard::isRepeat(const QKeyEvent& event) const {
@@ -87,7 +81,7 @@ bool KeyGuard::isTooEarly(const QKeyEvent& event) const {
     return held.first != idOf(event) && held.second > now;
   };
   return boxWaits_ &&
-         (now - boxShownAt_ < boxPatience || isRepeat(event) ||
+         (now - boxShownAt_ < boxDelay || isRepeat(event) ||
           std::any_of(heldUntil_.constKeyValueBegin(), heldUntil_.constKeyValueEnd(), isOtherHeld));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QHash>
 #include <QKeyEvent>
 #include <QObject>
@@ -20,10 +21,9 @@ class KeyGuard final : public QObject {
   /// Called when a key has been kept from a box.
   std::function<void()> keyKeptFromBox;
   /// Returns the time in milliseconds since any fixed moment. Tests set a clock of their own.
-  std::function<qint64()> clock = steadyClock;
+  std::function<qint64()> clock = [] { return QDeadlineTimer::current().deadline(); };
 
  private:
-  static qint64 steadyClock();
   /// Returns whether the key press is a repeat that the keyboard sends while the key is held.
   bool isRepeat(const QKeyEvent& event) const;
   /// Returns whether the player may have meant the key for what was there before the box.

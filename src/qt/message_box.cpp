@@ -37,7 +37,7 @@ platform::Desktop::Answer showMessageBox(const QString& title, const QString& te
                      Qt::WindowCloseButtonHint);
   const bool isQuestion = buttons != Desktop::Buttons::ok;
   box.setStandardButtons(isQuestion ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
-  // Without this it would be the first button, which is No on some desktops.
+  // Qt would choose the first button, which is No on some desktops.
   box.setDefaultButton(!isQuestion                          ? QMessageBox::Ok
                        : buttons == Desktop::Buttons::yesNo ? QMessageBox::Yes
                                                             : QMessageBox::No);
@@ -46,8 +46,8 @@ platform::Desktop::Answer showMessageBox(const QString& title, const QString& te
   for (QLabel* label : box.findChildren<QLabel*>()) {
     if (label->text() == text) label->setAccessibleName(spoken);
   }
-  // Where sentences are announcements, a key kept from the box cuts the reading short, so it is
-  // read again. Elsewhere it would be read twice.
+  // With announcements, a key kept from the box cuts the reading short, so the text is read again.
+  // Without, it would be read twice.
   Announcer announcer(box);
   QTimer repeat;
   repeat.setSingleShot(true);

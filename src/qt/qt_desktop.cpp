@@ -22,7 +22,7 @@ namespace {
 constexpr const char* noDisplay =
     "cannot open a window, because there is no display to open it on.";
 
-/// What Qt reports when it cannot open windows, and what to tell the user instead; the most helpful
+/// Messages of Qt when it cannot open windows, and what to tell the user instead; the most helpful
 /// first.
 constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
     {"Could not find the Qt platform plugin \"wayland\"",
@@ -32,21 +32,21 @@ constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
     {"Failed to create wl_display", noDisplay},
 });
 
-[[noreturn]] void endFor(const char* obstacle) {
-  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": " << obstacle << "\n";
+[[noreturn]] void exitWith(const char* message) {
+  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": " << message << "\n";
   std::_Exit(EXIT_FAILURE);
 }
 
-/// Returns the messages of Qt during its start.
+/// Returns the messages of Qt while it starts.
 QString& heldMessages() {
   static QString messages;
   return messages;
 }
 
-/// Message handler that collects Qt's messages and, when Qt gives up, ends the program with the one
-/// fact that matters. Qt itself would abort with a core dump and paragraphs of plug-in names. An
-/// unknown problem is reported in Qt's words, without warnings of no category, such as that about
-/// the locale, which are never the reason.
+/// Message handler that collects Qt's messages and, when Qt gives up, ends the program with one
+/// helpful message. Qt itself would abort with a core dump and paragraphs of plug-in names. An
+/// unknown problem is reported in Qt's words, except for warnings without a category, such as the
+/// one about the locale, which are never the reason.
 void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   static QString reasons;
   heldMessages() += qFormatLogMessage(type, context, message) + '\n';
@@ -56,7 +56,7 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QSt
   if (type != QtFatalMsg) return;
   const auto* const found = std::ranges::find_if(
       obstacles, [](const auto& obstacle) { return heldMessages().contains(obstacle.first); });
-  endFor(found == obstacles.end() ? qPrintable(reasons) : found->second);
+  exitWith(found == obstacles.end() ? qPrintable(reasons) : found->second);
 }
 
 }  // namespace
@@ -66,7 +66,7 @@ std::unique_ptr<QApplication> QtDesktop::makeApplication() {
   const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
   auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
   if (!QFontMetrics(QApplication::font()).inFont('0')) {
-    endFor(
+    exitWith(
         "cannot show any text, because no font is installed; install the package "
         "fonts-liberation.");
   }

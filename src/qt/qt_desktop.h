@@ -25,7 +25,7 @@ struct Program {
   std::string packageName;   ///< also of the desktop entry and the folder in "share"
 };
 
-/// The desktop, on Qt.
+/// Desktop implemented with Qt.
 class QtDesktop final : public platform::Desktop {
  public:
   /// Connects to the display. On failure prints the reason on standard error and ends the program
@@ -58,7 +58,7 @@ class QtDesktop final : public platform::Desktop {
   std::unique_ptr<QApplication> makeApplication();
 
   Program program_;
-  // Qt gets the program's path alone: the program has no arguments.
+  // Qt gets only the program's path, because the program has no arguments.
   int argumentCount_ = 1;
   std::array<char*, 2> arguments_;
   std::unique_ptr<QApplication> application_;

@@ -40,7 +40,7 @@ constexpr int drawnSize = 100;
 
 // Milliseconds.
 constexpr int timeToAnswer = 10000;  ///< for the print system
-constexpr int timeUntilBox = 200;    ///< short enough to wait without showing that
+constexpr int timeUntilBox = 200;    ///< a wait too short to need a box
 
 constexpr std::string_view notSent =
     "The page could not be sent to the printer; it can be printed again.";
@@ -58,9 +58,8 @@ QPrinterInfo printerToUse() {
 }
 
 /// Runs a command of the print system, in English, and returns its standard output. This is empty
-/// if the command fails, and missing if it has not ended when the user cancels or the time is up.
-/// A modal box over the window keeps another page from being printed meanwhile; the window is still
-/// repainted.
+/// if the command fails, and missing if the user cancels it or the time is up. A modal box over the
+/// window keeps another page from being printed meanwhile; the window is still repainted.
 std::optional<QString> ask(const QString& command, const QStringList& arguments, QWidget* window) {
   QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -168,7 +167,7 @@ std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
   dialog.setWindowModality(Qt::WindowModal);
   // The program asks instead, because some desktops' own dialogs ask before they append the suffix.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  // Qt takes an unknown home for the root folder, which is no place for files.
+  // If the home folder is unknown, Qt returns the root folder.
   QFileInfo target(QDir::home().isRoot() ? QDir::temp() : QDir::home(), documentName_ + ".pdf");
   do {
     dialog.selectFile(target.filePath());
@@ -178,7 +177,7 @@ std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
            messageBox_((target.fileName() + " is already there: replace it?").toStdString(),
                        Buttons::yesNoDefaultNo) != Answer::yes);
   QSaveFile file(target.filePath());
-  // Flushed first, because committing does not notice a full disk.
+  // Flushed first, because commit() does not report a full disk.
   if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() &&
       file.commit()) {
     return {};

@@ -15,10 +15,9 @@
 
 namespace qt {
 
-/// Prints on the desktop's default printer, or, without any printer, into a PDF file that the user
-/// names.
-///
-/// The sheet is first made as a PDF in memory, so that it is passed on whole or not at all.
+/// Printer that prints on the desktop's default printer, or, if there is none, into a PDF file that
+/// the user names. The page is first made as a PDF in memory, so that it is sent whole or not at
+/// all.
 class QtPrinter final : public platform::Printer {
  public:
   using Buttons = platform::Desktop::Buttons;
@@ -26,7 +25,7 @@ class QtPrinter final : public platform::Printer {
   using MessageBox = std::function<Answer(std::string_view, Buttons)>;
 
   /// `documentName` is shown in the printer's queue and proposed as the name of a file.
-  /// `messageBox` tells or asks the user something, in one sentence.
+  /// `messageBox` shows the user a message or a question.
   QtPrinter(QString documentName, MessageBox messageBox)
       : documentName_(std::move(documentName)), messageBox_(std::move(messageBox)) {}
 
@@ -44,7 +43,7 @@ class QtPrinter final : public platform::Printer {
   QByteArray sheet(const QPageSize& paper) const;
 
  private:
-  // Each returns what the user should know, in one sentence; empty if all is well.
+  // Each returns a message for the user, or an empty text on success.
   std::string_view printOrSave() const;
   std::string_view sendToPrinter(const QString& printer, const QByteArray& pdf) const;
   std::string_view saveAsPdf(const QByteArray& pdf) const;

@@ -6,23 +6,14 @@
 #include <QScreen>
 #include <QWheelEvent>
 #include <QWindow>
-#include <algorithm>
 #include <array>
 
 namespace qt {
 namespace {
 
 constexpr std::array factors{1.0, 1.25, 1.5, 2.0, 2.5, 3.0, 4.0};
-constexpr std::size_t twice = 3;
+constexpr int twice = 3;
 constexpr int largeScreen = 1800;  // device-independent pixels of height
-
-/// The keys that mean a step with Ctrl. "=" shares its key with "+" on many keyboards.
-constexpr auto keySteps = std::to_array<std::pair<int, int>>(
-    {{Qt::Key_Plus, 1}, {Qt::Key_Equal, 1}, {Qt::Key_Minus, -1}});
-
-bool isCtrl(Qt::KeyboardModifiers modifiers) {
-  return (modifiers & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::ControlModifier;
-}
 
 }  // namespace
 
@@ -38,7 +29,7 @@ double Zoom::factor() const {
   return factors[step_];
 }
 
-void Zoom::stepTo(std::size_t step) {
+void Zoom::stepTo(int step) {
   step_ = step;
   QFont font = usualFont_;
   if (step != 0) font.setPointSizeF(QFontInfo(font).pointSizeF() * factor());
@@ -47,47 +38,43 @@ void Zoom::stepTo(std::size_t step) {
 }
 
 void Zoom::stepBy(int steps) {
-  // A step below the first is a number beyond the last.
-  const std::size_t step = step_ + static_cast<std::size_t>(steps);
-  if (step < factors.size() && (steps < 0 || fits_(factors[step]))) {
+  const int step = step_ + steps;
+  if (step >= 0 && step < std::ssize(factors) && (steps < 0 || fits_(factors[step]))) {
     stepTo(step);
   } else {
     announce_(steps > 0 ? "Largest" : "Smallest");
   }
 }
 
+void Zoom::stepToStart() {
+  int step = start_;
+  while (step > 0 && !fits_(factors[step])) --step;
+  stepTo(step);
+}
+
 bool Zoom::eventFilter(QObject* watched, QEvent* event) {
   const auto* window = qobject_cast<QWindow*>(watched);
-  if (window == nullptr || window->modality() != Qt::NonModal ||
+  const auto* input = dynamic_cast<QInputEvent*>(event);
+  if (window == nullptr || window->modality() != Qt::NonModal || input == nullptr ||
+      (input->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::ControlModifier ||
       QApplication::activePopupWidget() != nullptr) {
     return false;
   }
   if (event->type() == QEvent::KeyPress) {
-    const auto& key = dynamic_cast<QKeyEvent&>(*event);
-    if (!isCtrl(key.modifiers())) return false;
-    const auto* found = std::ranges::find(keySteps, key.key(), &std::pair<int, int>::first);
-    if (key.key() == Qt::Key_0) {
-      std::size_t step = start_;
-      while (step > 0 && !fits_(factors[step])) --step;
-      stepTo(step);
-    } else if (found != keySteps.end()) {
-      stepBy(found->second);
-    } else {
-      return false;
-    }
-    return true;
+    const int key = dynamic_cast<QKeyEvent*>(event)->key();
+    // "=" shares its key with "+" on many keyboards.
+    const bool isPlus = key == Qt::Key_Plus || key == Qt::Key_Equal;
+    if (key == Qt::Key_0) stepToStart();
+    if (isPlus || key == Qt::Key_Minus) stepBy(isPlus ? 1 : -1);
+    return isPlus || key == Qt::Key_Minus || key == Qt::Key_0;
   }
-  if (event->type() == QEvent::Wheel) {
-    const auto& wheel = dynamic_cast<QWheelEvent&>(*event);
-    if (!isCtrl(wheel.modifiers())) return false;
-    // Touchpads report less than a step at a time.
-    wheel_ += wheel.angleDelta().y();
-    constexpr int perStep = QWheelEvent::DefaultDeltasPerStep;
-    for (; wheel_ >= perStep; wheel_ -= perStep) stepBy(1);
-    for (; wheel_ <= -perStep; wheel_ += perStep) stepBy(-1);
-    return true;
-  }
-  return false;
+  if (event->type() != QEvent::Wheel) return false;
+  // Touchpads report less than a step at a time.
+  wheel_ += dynamic_cast<QWheelEvent*>(event)->angleDelta().y();
+  constexpr int perStep = QWheelEvent::DefaultDeltasPerStep;
+  for (; wheel_ >= perStep; wheel_ -= perStep) stepBy(1);
+  for (; wheel_ <= -perStep; wheel_ += perStep) stepBy(-1);
+  return true;
 }
 
 }  // namespace qt

@@ -8,12 +8,11 @@
 
 namespace qt {
 
-/// How large the windows show everything: a factor on top of the screen's scale factor. Forms ask
-/// for it; what Qt draws grows with the application's font, and every window hears of a new factor
-/// as a change of that font.
+/// Zoom factor of all windows, on top of the screen's scale factor. Forms ask for it; what Qt draws
+/// grows with the application's font, whose change notifies every window of a new factor.
 ///
-/// As the event filter of the application, it lets Ctrl with +, -, 0 or the wheel change the factor
-/// in every window but boxes.
+/// As an application-wide event filter it changes the factor on Ctrl with +, -, 0 or the wheel, in
+/// every window that is not modal.
 class Zoom final : public QObject {
  public:
   /// Starts at 2 on a screen with 1,800 or more device-independent pixels of available height, else
@@ -26,15 +25,16 @@ class Zoom final : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  void stepTo(std::size_t step);
+  void stepTo(int step);
   void stepBy(int steps);
+  void stepToStart();
 
   std::function<bool(double factor)> fits_;
   std::function<void(const QString&)> announce_;
   QFont usualFont_;
-  std::size_t start_;
-  std::size_t step_ = 0;  ///< index of the factor
-  int wheel_ = 0;         ///< turned since the last step, in eighths of a degree
+  int start_;
+  int step_ = 0;   ///< index of the factor
+  int wheel_ = 0;  ///< turned since the last step, in eighths of a degree
 };
 
 }  // namespace qt

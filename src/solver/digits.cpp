@@ -1,5 +1,6 @@
 #include "solver/digits.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 
@@ -18,19 +19,11 @@ constexpr std::uint64_t goldenGamma = 0x9e3779b97f4a7c15U;
 
 }  // namespace
 
-void ReseededDigits::reseed(double secondsSinceMidnight) {
-  state_ = mix(state_ ^ std::bit_cast<std::uint64_t>(secondsSinceMidnight));
-}
-
-double ReseededDigits::uniform() {
-  state_ += goldenGamma;
-  return static_cast<double>(mix(state_) >> 11U) * 0x1p-53;
-}
-
 int ReseededDigits::draw() {
-  reseed(desktop_.secondsSinceMidnight());
-  const int rounded = static_cast<int>(std::nearbyint(9 * uniform() + 1));
-  return rounded == 10 ? 9 : rounded;
+  state_ = mix(state_ ^ std::bit_cast<std::uint64_t>(desktop_.secondsSinceMidnight()));
+  state_ += goldenGamma;
+  const double uniform = static_cast<double>(mix(state_) >> 11U) * 0x1p-53;  // in [0, 1)
+  return std::min(9, static_cast<int>(std::nearbyint(9 * uniform + 1)));
 }
 
 }  // namespace tessoro

@@ -9,9 +9,6 @@ namespace tessoro {
 /// Source of random digits.
 class Digits {
  public:
-  Digits() = default;
-  Digits(const Digits&) = delete;
-  Digits& operator=(const Digits&) = delete;
   virtual ~Digits() = default;
 
   /// Returns a digit 1..9: 1 with probability 1/18, each of 2 to 8 with 1/9, 9 with 1/6.
@@ -29,10 +26,6 @@ class ReseededDigits final : public Digits {
   int draw() override;
 
  private:
-  void reseed(double secondsSinceMidnight);
-  /// Returns a uniformly distributed number in [0, 1).
-  double uniform();
-
   platform::Desktop& desktop_;
   std::uint64_t state_ = 0;
 };

@@ -10,13 +10,6 @@ bool isFixed(std::int16_t target) {
   return target > 0;
 }
 
-std::string_view firstOperator(std::size_t pair) {
-  return OpPairs[pair].substr(0, 1);
-}
-std::string_view secondOperator(std::size_t pair) {
-  return OpPairs[pair].substr(1);
-}
-
 /// Stores the values of "a op1 b op2 c" in the order of `OpPairs`; digits 1..9 give -80 to 729.
 /// Writes them in place, because copying a freshly written array stalls the processor.
 void setPairValues(SolutionAttempt::PairValues& values, int a, int b, int c) {
@@ -105,8 +98,8 @@ void SolutionAttempt::choosePair(int first, int step, std::int16_t target) {
 }
 
 void SolutionAttempt::setOperators(std::size_t pair) {
-  LineOp1 = firstOperator(pair);
-  LineOp2 = secondOperator(pair);
+  LineOp1 = OpPairs[pair].substr(0, 1);
+  LineOp2 = OpPairs[pair].substr(1);
 }
 
 void SolutionAttempt::MatchGrandTotal() {
@@ -115,8 +108,9 @@ void SolutionAttempt::MatchGrandTotal() {
     for (std::size_t j = 1; j <= PairCount; ++j) {
       const std::int16_t total = ColPairValue[j];
       if (!isDigit(total) || RowPairValue[i] != total) continue;
-      state_.SolOperators[7] = firstOperator(i);
-      state_.SolOperators[8] = secondOperator(i);
+      setOperators(i);
+      state_.SolOperators[7] = LineOp1;
+      state_.SolOperators[8] = LineOp2;
       setOperators(j);
       if (isFixed(state_.TargetBR) && total != state_.TargetBR) continue;
       state_.SolNumbers[16] = digitTexts_[total];

@@ -26,8 +26,8 @@ class SolutionSearch {
   /// Searches for a solution with the corners that the targets fix, processing pending events
   /// before each attempt. On success stores it as the current puzzle, updates title, corners and
   /// print page, hides the outer corner cells and disables `Solveit`. After 500 attempts shows a
-  /// message, clears the board between the corners and restores the puzzle number. Otherwise the
-  /// caller clears the board.
+  /// message, clears the board between the corners and restores the puzzle number. After a success
+  /// the board between the corners is the caller's to clear or fill.
   void FindSolution();
 
   /// Returns whether the last search found a solution; true while one is running.
