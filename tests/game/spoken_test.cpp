@@ -30,6 +30,12 @@ TEST_F(SpokenTest, NewPuzzleIsSaidWithItsCorners) {
             "Puzzle 2. Corners: top left 7, top right 1, bottom left 3, bottom right 8");
 }
 
+TEST_F(SpokenTest, FailedSearchIsSaidByItsBoxAlone) {
+  failNextSearch();
+  click(form.NewPuz);
+  EXPECT_EQ(desktop.said, Log{"Cannot Solve This Time ! [OK]"});
+}
+
 TEST_F(SpokenTest, RandomStartIsSaidWithItsCorners) {
   nextDigits = "1111111111111111";
   choose("Start a Solution");
