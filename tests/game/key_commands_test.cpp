@@ -26,24 +26,11 @@ TEST_F(KeyCommandsTest, NGoesToTheNextEmptyCellAndShiftNToTheOneBefore) {
   EXPECT_EQ(focused, 14);
 }
 
-TEST_F(KeyCommandsTest, NGoesRoundFromTheLastToTheFirst) {
-  type(46, 'n');
-  EXPECT_EQ(focused, 2);
-  type(2, 'N');
-  EXPECT_EQ(focused, 46);
-}
-
 TEST_F(KeyCommandsTest, ShiftNGoesFromSolvePuzzleToTheLastCornerToSet) {
   choose("Set a Puzzle for computer to solve");
   press(49);
   type(form.Solveit, 'N');
   EXPECT_EQ(focused, 43);
-}
-
-TEST_F(KeyCommandsTest, NSaysThatNoOtherCellIsEmpty) {
-  solveExcept(33);
-  type(33, 'n');
-  EXPECT_EQ(lastSaid(), "No other cell is empty");
 }
 
 TEST_F(KeyCommandsTest, ButtonIsInNoRowAndNoColumnAndTakesNoDigit) {

@@ -47,9 +47,4 @@ TEST_F(PrintPageTest, FourthPuzzleTakesThePlaceOfTheFirst) {
   EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 4, 2, 3 [Yes] [No]");
 }
 
-TEST_F(PrintPageTest, IsNotPrintedOnNo) {
-  choose("Print");
-  EXPECT_EQ(desktop.printed, "");
-}
-
 }  // namespace tessoro::test

@@ -12,12 +12,6 @@ struct SearchTest : GameTest {
   }
 };
 
-TEST_F(SearchTest, HelpOpensWhileItRuns) {
-  chooseWhileSearching("Help");
-  EXPECT_EQ(desktop.opened.at(0), "Puzzle Number  2");
-  EXPECT_EQ(desktop.opened.at(1), "qaviro.hlp");
-}
-
 TEST_F(SearchTest, ProgramEndsInTheMiddleOfIt) {
   EXPECT_THROW(chooseWhileSearching("Exit"), ProgramEnded);
   EXPECT_THROW(form.unload(), ProgramEnded);

@@ -12,18 +12,6 @@ TEST_F(SpokenTest, LastMoveIsSaidBeforeItsBox) {
                                "You got it ! [OK]"}));
 }
 
-TEST_F(SpokenTest, FirstMoveSaysThatNoLineHasAValue) {
-  press(17);
-  EXPECT_EQ(lastSaid(), "1, no line has a value yet");
-}
-
-TEST_F(SpokenTest, NewPuzzleIsSaidWithItsCorners) {
-  nextDigits = solutionDigits;
-  click(form.NewPuz);
-  EXPECT_EQ(lastSaid(),
-            "Puzzle 2. Corners: top left 7, top right 1, bottom left 3, bottom right 8");
-}
-
 TEST_F(SpokenTest, ShownSolutionAndTheEndAreSaid) {
   choose("Show Solution");
   press(17);
@@ -43,16 +31,6 @@ TEST_F(SpokenTest, StatingAPuzzleIsSaidStepByStep) {
                  "Corners: top left not set, top right not set, bottom left not set, bottom right "
                  "not set",
                  "Back from setting puzzles. Press New Puzzle to play on"}));
-}
-
-TEST_F(SpokenTest, SolvedPuzzleIsSaidAndThatItIsSolvedAlready) {
-  choose("Set a Puzzle for computer to solve");
-  turn(1, "7 . . . . . 1");
-  turn(43, "3 . . . . . 8");
-  click(form.Solveit);
-  EXPECT_EQ(lastSaid(), "Solved as puzzle 2");
-  click(form.Solveit);
-  EXPECT_TRUE(lastSaid().starts_with("Solved already")) << lastSaid();
 }
 
 /// What is heard on a key in the middle of a puzzle:
