@@ -1,4 +1,4 @@
 #pragma once
 
-/// How often the program has asked for memory.
+/// Number of calls to operator new so far.
 extern long allocations;

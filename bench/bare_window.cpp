@@ -2,8 +2,8 @@
 #include <QMainWindow>
 #include <QMenuBar>
 
-/// What any program of the toolkit costs: a window with a menu and as many children as the game has
-/// cells, and nothing in them.
+/// Baseline cost of a Qt program: a window with a menu and as many empty widgets as the game has
+/// cells.
 int main(int argc, char* argv[]) {
   const QApplication application(argc, argv);
   QMainWindow window;

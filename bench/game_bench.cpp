@@ -6,29 +6,26 @@
 
 #include "allocations.h"
 #include "app/game.h"
-#include "platform/clock.h"
 
 namespace {
 
-class NoWindows final : public platform::Desktop {
+class HeadlessDesktop final : public platform::Desktop {
  public:
-  Answer showMessageBox(std::string_view /*text*/, Buttons /*buttons*/) override {
-    return Answer::ok;
-  }
+  Answer messageBox(std::string_view /*text*/, Buttons /*buttons*/) override { return Answer::ok; }
   void announce(std::string_view /*sentence*/) override {}
   void yield() override {}
-  double secondsSinceMidnight() override { return clock_.secondsSinceMidnight(); }
+  double secondsSinceMidnight() override {
+    const auto now = std::chrono::system_clock::now();
+    return std::chrono::duration<double>(now - std::chrono::floor<std::chrono::days>(now)).count();
+  }
   void showModal(platform::Form& /*form*/) override {}
   platform::Printer& printer() override { std::abort(); }
   platform::HelpViewer& helpViewer() override { std::abort(); }
   [[noreturn]] void endProgram() override { std::exit(EXIT_SUCCESS); }
-
- private:
-  platform::Clock clock_;
 };
 
 struct Bench {
-  NoWindows desktop;
+  HeadlessDesktop desktop;
   tessoro::ReseededDigits digits{desktop};
   tessoro::Game game{desktop, digits};
 
@@ -39,16 +36,16 @@ struct Bench {
   }
 };
 
-/// Reports how many allocations each iteration has made since `before`.
+/// Reports the average number of allocations per iteration since the count `before`.
 void reportAllocations(benchmark::State& run, long before) {
   run.counters["allocations"] = benchmark::Counter(static_cast<double>(allocations - before),
                                                    benchmark::Counter::kAvgIterations);
 }
 
-/// Digits that count how many have been drawn.
-class CountedDigits final : public tessoro::Digits {
+/// Source of digits that counts its draws.
+class CountingDigits final : public tessoro::Digits {
  public:
-  explicit CountedDigits(platform::Desktop& desktop) : digits_(desktop) {}
+  explicit CountingDigits(platform::Desktop& desktop) : digits_(desktop) {}
   int draw() override {
     ++drawn;
     return digits_.draw();
@@ -65,16 +62,16 @@ double secondsFor(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// A search with free corners; `to_draws` is its time in times of that of its draws and their clock
-/// readings alone.
+/// A search with free corners. `to_draws` is its time divided by that of its draws alone, which
+/// includes their clock readings.
 void freeSearch(benchmark::State& run) {
   Bench bench;
   const long before = allocations;
   for (auto _ : run) bench.game.search.FindSolution();
   reportAllocations(run, before);
 
-  NoWindows desktop;
-  CountedDigits counted(desktop);
+  HeadlessDesktop desktop;
+  CountingDigits counted(desktop);
   tessoro::Game game(desktop, counted);
   game.startUp.Form_Load();
   constexpr int searches = 50000;
@@ -103,8 +100,8 @@ void searchWithFourCornersFixed(benchmark::State& run) {
 }
 BENCHMARK(searchWithFourCornersFixed);
 
-/// All 500 attempts fail, since 12 is no digit; they get as far as attempts do with corners that
-/// are hard to meet.
+/// All 500 attempts fail, because 12 is not a digit, at the same stage as for corners that are hard
+/// to match.
 void searchThatGivesUp(benchmark::State& run) {
   Bench bench;
   bench.fixCorners({1, 9, 8, 12});
@@ -121,7 +118,7 @@ void oneAttempt(benchmark::State& run) {
 }
 BENCHMARK(oneAttempt);
 
-/// What an attempt cannot do without: the nine draws of its first three rows.
+/// The least an attempt needs: the nine draws of its first three rows.
 void nineDraws(benchmark::State& run) {
   Bench bench;
   for (auto _ : run) {
@@ -137,7 +134,7 @@ void updateLines(benchmark::State& run) {
 }
 BENCHMARK(updateLines);
 
-/// A number stepped on a full board that has every result but the last corner's right.
+/// A move on a full board where only the last corner is wrong.
 void oneMove(benchmark::State& run) {
   Bench bench;
   bench.game.solutionDisplay.ShowSolution();

@@ -19,7 +19,7 @@
 #include "qt/form_window.h"
 #include "qt/qt_desktop.h"
 
-/// Measures the program in a real window; it takes an X server, such as that of xvfb-run.
+/// Benchmarks of the program in a real window. They need an X server, such as xvfb-run's.
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -28,7 +28,7 @@ double millisecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-/// Tells when a window of another program has been mapped.
+/// Watcher of the X root window that reports newly mapped windows.
 class RootWindow {
  public:
   RootWindow() : connection_(xcb_connect(nullptr, nullptr)) {
@@ -49,7 +49,7 @@ class RootWindow {
       std::free(event);
     }
   }
-  /// Forgets what has happened so far.
+  /// Discards pending events.
   void drain() {
     while (xcb_generic_event_t* event = xcb_poll_for_event(connection_)) std::free(event);
   }
@@ -69,7 +69,7 @@ double residentMegabytes(pid_t process) {
 
 struct Start {
   double milliseconds;  ///< from exec to the mapped window
-  double megabytes;     ///< resident once it has been drawn
+  double megabytes;     ///< resident set size after drawing
 };
 
 Start start(const char* program) {
@@ -91,7 +91,7 @@ Start start(const char* program) {
   return {milliseconds, megabytes};
 }
 
-/// The game's start beside that of a bare window of the toolkit, turn by turn.
+/// Starts the game and a bare Qt window in turn and compares them.
 void startUp(benchmark::State& run) {
   Start game{};
   Start bare{};
@@ -112,7 +112,7 @@ void startUp(benchmark::State& run) {
 }
 BENCHMARK(startUp)->UseManualTime()->Iterations(15)->Unit(benchmark::kMillisecond);
 
-/// The game in a window of this process.
+/// Game in a window of this process.
 struct Shown {
   static inline qt::QtDesktop* desktop = nullptr;
   tessoro::ReseededDigits digits{*desktop};
@@ -142,8 +142,7 @@ struct Shown {
   }
 };
 
-/// From the press of the mouse until the window is repainted; `of_a_frame` in times of a 60th of a
-/// second.
+/// From a mouse press until the window is repainted. `of_a_frame` is in frames of 1/60 second.
 void pressToRepaint(benchmark::State& run) {
   const Shown shown;
   const auto start = Clock::now();
@@ -160,12 +159,11 @@ void pressToRepaint(benchmark::State& run) {
 }
 BENCHMARK(pressToRepaint)->Unit(benchmark::kMicrosecond);
 
-/// 500 failing attempts, each after the window has processed its events, without the message of the
-/// end.
+/// 500 failing attempts, each after the window processes its events, without the final message.
 void searchThatGivesUp(benchmark::State& run) {
   Shown shown;
   tessoro::SolutionAttempt attempt(shown.game.state, shown.digits);
-  shown.game.state.TargetBR = 12;  // no digit
+  shown.game.state.TargetBR = 12;  // not a digit, so no attempt succeeds
   const auto start = Clock::now();
   for (auto _ : run) {
     for (int i = 0; i < 500; ++i) {
@@ -179,10 +177,10 @@ void searchThatGivesUp(benchmark::State& run) {
 }
 BENCHMARK(searchThatGivesUp)->Unit(benchmark::kMillisecond);
 
-/// How much the process grows by 100,000 puzzles and 100,000 moves after the first thousand.
-void memoryOfALongDay(benchmark::State& run) {
+/// Growth in resident memory from puzzle and move 1,000 to 100,000.
+void memoryGrowth(benchmark::State& run) {
   Shown shown;
-  const auto live = [&](int times) {
+  const auto play = [&](int times) {
     for (int i = 0; i < times; ++i) {
       shown.game.newGame.NewPuz_Click();
       shown.press(i % 2 == 0 ? 17 : 16);
@@ -192,12 +190,12 @@ void memoryOfALongDay(benchmark::State& run) {
   };
   double growth = 0;
   for (auto _ : run) {
-    const double early = live(1000);
-    growth = live(99000) - early;
+    const double early = play(1000);
+    growth = play(99000) - early;
   }
   run.counters["MB_growth"] = growth;
 }
-BENCHMARK(memoryOfALongDay)->Iterations(1)->Unit(benchmark::kSecond);
+BENCHMARK(memoryGrowth)->Iterations(1)->Unit(benchmark::kSecond);
 
 }  // namespace
 

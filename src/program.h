@@ -4,7 +4,7 @@
 
 namespace tessoro {
 
-/// What the desktop is told of this program.
+/// Returns what the desktop needs to know of this program.
 inline qt::Program program() {
   return {.name = "Tessoro",
           .messageTitle = "TESSORO",

@@ -5,8 +5,7 @@
 
 namespace tessoro {
 
-/// The About box. It closes by its button, by a mouse button pressed over its text, or by its close
-/// command.
+/// The About box. Its button, a mouse button pressed over its text and its close command close it.
 class AboutForm final : public platform::Form {
  public:
   AboutForm();

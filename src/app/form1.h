@@ -5,7 +5,7 @@
 
 namespace tessoro {
 
-/// The main window: its controls, their places and looks as laid out before the program starts.
+/// The main window, with its controls as they are before start-up.
 class Form1 final : public platform::Form {
  public:
   Form1();

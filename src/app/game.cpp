@@ -1,5 +1,8 @@
 #include "app/game.h"
 
+#include <functional>
+#include <string>
+
 #include "app/spoken_board.h"
 
 namespace tessoro {
@@ -16,60 +19,61 @@ Game::Game(platform::Desktop& desktop, Digits& digits)
       printCommand(page, desktop),
       shell(form, desktop),
       startUp(form.board, page, search, form.CompMess, form.Solveit, desktop),
-      narrator(form, state, search, desktop),
-      keyCommands(form, state, moves, narrator) {
+      narrator(form, state, moves, search, desktop),
+      keyCommands(form, moves, narrator) {
   connectEvents();
   describeForScreenReaders(form);
 }
 
 void Game::connectEvents() {
+  // Handlers can run while a search yields. Those that change the board or speak about it then do
+  // nothing, because the search is about to replace it.
+  const auto unlessSearching = [this](auto handler) {
+    return [this, handler](auto... arguments) {
+      if (search.underWay()) return decltype(handler(arguments...))();
+      return handler(arguments...);
+    };
+  };
   for (int index = 0; index < boardCells; ++index) {
     Cell& cell = form.board.GridDisp[index];
-    cell.mouseDown = [this, index](const platform::MousePress& press) {
+    cell.mouseDown = unlessSearching([this, index](const platform::MousePress& press) {
       narrator.narrate([&] { moves.GridDisp_MouseDown(index, press); },
                        narrator.outcomeOfPress(index));
-    };
-    cell.refused = [this, index] { narrator.explainRefusal(index); };
-    // A screen reader may give the focus to what stands beside the grid, too.
-    if (index < 1 || index > gridCells) continue;
-    cell.typed = [this, index](char character, bool shift) {
-      return keyCommands.typedOnCell(index, character, shift);
-    };
+    });
+    cell.refused = unlessSearching([this, index] { narrator.explainRefusal(index); });
   }
-  form.NewPuz.click = [this] {
-    narrator.narrate([this] { newGame.NewPuz_Click(); }, [this] { return narrator.newPuzzle(); });
+  const auto takeCharacters = [&](Cell& cell, int index) {
+    cell.typed = unlessSearching([this, index](char character, bool shift) {
+      return keyCommands.typed(index, character, shift);
+    });
   };
-  form.Solveit.click = [this] {
-    narrator.narrate([this] { setAPuzzle.Solveit_Click(); },
-                     [this] { return narrator.solvedPuzzle(); });
-  };
-  form.StartSolx.click = [this] {
-    narrator.narrate([this] { newGame.StartSolx_Click(); },
-                     [this] { return narrator.randomStart(); });
-  };
-  form.ShowSolx.click = [this] {
-    narrator.narrate([this] { solutionDisplay.ShowSolx_Click(); }, Narrator::solutionShown);
-  };
-  form.SolveMx.click = [this] {
-    narrator.narrate([this] { setAPuzzle.SolveMx_Click(); },
-                     [this] { return narrator.modeSwitched(); });
-  };
-  for (Cell* button : {&form.NewPuz, &form.Solveit}) {
-    button->typed = [this](char character, bool shift) {
-      return keyCommands.typedOnButton(character, shift);
-    };
-  }
-  form.Solveit.refused = [this] { narrator.explainDisabledSolveit(); };
+  // Cells beside the grid can get the focus from a screen reader, but have no row or column.
+  for (int index = 1; index <= gridCells; ++index)
+    takeCharacters(form.board.GridDisp[index], index);
+  takeCharacters(form.NewPuz, 0);
+  takeCharacters(form.Solveit, 0);
+  form.Solveit.refused = unlessSearching([this] { narrator.explainDisabledSolveit(); });
+  form.edgeReached = unlessSearching([this] { narrator.say("Edge of the board"); });
 
-  form.Solveit.contextMenu = [this](auto... arguments) {
-    setAPuzzle.Solveit_ContextMenu(arguments...);
+  const auto connect = [&](auto& control, auto& object, auto procedure, auto outcome) {
+    control.click = unlessSearching([this, &object, procedure, outcome] {
+      narrator.narrate(std::bind_front(procedure, &object), std::bind_front(outcome, &narrator));
+    });
   };
+  connect(form.NewPuz, newGame, &NewGame::NewPuz_Click, &Narrator::puzzleMade);
+  connect(form.Solveit, setAPuzzle, &SetAPuzzle::Solveit_Click, &Narrator::puzzleSolved);
+  connect(form.StartSolx, newGame, &NewGame::StartSolx_Click, &Narrator::randomStart);
+  connect(form.SolveMx, setAPuzzle, &SetAPuzzle::SolveMx_Click, &Narrator::modeSwitched);
+  connect(form.ShowSolx, solutionDisplay, &SolutionDisplay::ShowSolx_Click, [](const Narrator*) {
+    return std::string("The solution is shown, and the puzzle is over");
+  });
+  cornerCheck.beforeMessage = [this] { narrator.sayOutcome(); };
+
+  form.Solveit.contextMenu = std::bind_front(&SetAPuzzle::Solveit_ContextMenu, &setAPuzzle);
   form.PrintX.click = [this] { printCommand.PrintX_Click(); };
-  form.Helpx.click = [this] { shell.Helpx_Click(); };
+  form.Helpx.click = form.help = [this] { shell.Helpx_Click(); };
   form.Aboutx.click = [this] { shell.Aboutx_Click(); };
   form.Exitx.click = [this] { shell.Exitx_Click(); };
-  form.help = [this] { shell.Helpx_Click(); };
-  form.edgeReached = [this] { narrator.explainEdge(); };
   form.unload = [this] { startUp.Form_Unload(); };
 }
 

@@ -20,11 +20,11 @@
 
 namespace tessoro {
 
-/// The whole game without the toolkit that shows it: the main window, the puzzle, and the groups
-/// of procedures that work on them, wired to the window's events.
+/// The whole game without the desktop that shows it: the main window, the puzzle, and the
+/// procedures that work on them, connected to the window's events.
 class Game {
  public:
-  /// Lays out the main window. The first puzzle comes with `startUp`.
+  /// Lays out the main window. `startUp` makes the first puzzle.
   Game(platform::Desktop& desktop, Digits& digits);
 
   Form1 form;

@@ -7,88 +7,72 @@
 #include "app/form1.h"
 #include "board/puzzle_state.h"
 #include "platform/desktop.h"
+#include "play/moves.h"
 #include "solver/solution_search.h"
 
 namespace tessoro {
 
-/// Tells players who do not see the board what each press and command has changed: one sentence
-/// each, as short as can be, since they hear it a hundred times in a puzzle.
-///
-/// The game narrates: it runs a handler and puts its outcome into a sentence, or explains why a
-/// press did nothing. The desktop announces the sentence: it has it spoken when its turn comes.
-/// What else a screen reader reads, such as the names of cells, it takes from the controls by
-/// itself.
+/// Spoken feedback on presses and commands, for players who do not see the board: one sentence
+/// each, as short as possible, since they hear it a hundred times in a puzzle. The names of cells
+/// and buttons come from the controls instead.
 class Narrator {
  public:
   using Sentence = std::function<std::string()>;
 
-  Narrator(const Form1& form, const PuzzleState& state, const SolutionSearch& search,
-           platform::Desktop& desktop)
-      : form_(form), state_(state), search_(search), desktop_(desktop) {}
+  Narrator(const Form1& form, const PuzzleState& state, const Moves& moves,
+           const SolutionSearch& search, platform::Desktop& desktop)
+      : form_(form), state_(state), moves_(moves), search_(search), desktop_(desktop) {}
 
-  /// Runs the handler of an event, and announces its outcome at its end, or earlier when a message
-  /// box comes up. The sentence is put together only then; an empty one is not announced. Does
-  /// nothing while a search is under way.
+  /// Makes a screen reader speak the sentence, unless it is empty.
+  void say(const std::string& sentence);
+  /// Says the last sentence again, or describes the first puzzle if there is none.
+  void repeat();
+
+  /// Runs an event's handler, then calls `outcome` and says what it returns.
   void narrate(const std::function<void()>& handler, Sentence outcome);
+  /// Says the outcome of the handler that is running, before the handler shows a message box.
+  void sayOutcome();
 
-  /// What a press on the cell will have changed since now, or why it has not.
+  /// Call before the press. The returned function, called after it, says what the press changed, or
+  /// why it changed nothing.
   Sentence outcomeOfPress(int cell) const;
 
   /// Says why a press on the disabled cell 0..53 did nothing.
-  void explainRefusal(int cell);
+  void explainRefusal(int cell) { say(whyNotSet(cell)); }
   /// Says why a press on the disabled button "Solve Puzzle" did nothing.
-  void explainDisabledSolveit();
-  /// Says what belongs in cell 1..49, or on a button with 0, after a character that does not.
+  void explainDisabledSolveit() { say(whyNotSolved()); }
+  /// Says what can be typed on cell 1..49, or on a button with 0, after a character that cannot.
   void explainTyping(int cell);
-  /// Says that an arrow key has reached the edge of the board.
-  void explainEdge();
-  /// Says that there is no way to an empty cell, since there is none or the puzzle is over.
+  /// Says why there is no empty cell to go to.
   void explainNoneEmpty();
 
-  /// Tells row 1..7, as the player has asked to hear.
-  void tellRow(int row);
-  /// The same with column 1..7.
-  void tellColumn(int column);
-  /// The same with the four corners.
-  void tellCorners();
-  /// Tells the last sentence again, or the first puzzle where there has been none.
-  void repeat();
-
-  /// What there is to tell of the puzzle of the start; nothing if none was found.
-  std::string firstPuzzle() const;
-  /// The outcome of "New Puzzle"; nothing if none was found.
-  std::string newPuzzle() const;
-  /// The outcome of "Solve Puzzle"; nothing if there was none but a message box.
-  std::string solvedPuzzle() const;
-  /// The outcome of "Start a Solution".
-  std::string randomStart() const;
-  /// The outcome of "Show Solution".
-  static std::string solutionShown();
-  /// The outcome of entering or leaving the mode in which puzzles are set.
-  std::string modeSwitched() const;
+  // The outcomes of commands; empty where a message box says enough.
+  std::string firstPuzzle() const;   ///< of the search at the start
+  std::string puzzleMade() const;    ///< of "New Puzzle"
+  std::string puzzleSolved() const;  ///< of "Solve Puzzle"
+  std::string randomStart() const;   ///< of "Start a Solution"
+  std::string modeSwitched() const;  ///< of entering or leaving the mode that sets puzzles
 
  private:
-  enum class Standing { open, right, wrong };
-
-  /// What the board shows, as far as it is heard.
+  /// Results and corners as the player last heard them.
   struct Heard {
     std::array<std::string, gridCells + 1> results;  ///< in words, of the cells that are results
-    std::array<Standing, 5> corners{};               ///< of the corners 1..4
-    bool begun = false;                              ///< the results have been worked out
+    std::array<std::string, 5> standings;            ///< of the corners 1..4
   };
 
-  /// What is heard of the board as it stands.
   Heard heard() const;
-  /// What is heard of the board that was not so before, each part after a comma.
+  /// Returns what has changed on the board since then, each part after a comma.
   std::string changesSince(const Heard& before) const;
-  /// Has the sentence announced, if there is one and no search is under way.
-  void say(const std::string& sentence);
+  std::string whyNotSet(int cell) const;
+  std::string whyNotSolved() const;
 
   const Form1& form_;
   const PuzzleState& state_;
+  const Moves& moves_;
   const SolutionSearch& search_;
   platform::Desktop& desktop_;
-  std::string last_;  ///< the last sentence announced
+  Sentence outcome_;  ///< of the handler that is running, until it is said
+  std::string last_;  ///< the last sentence said
 };
 
 }  // namespace tessoro

@@ -4,7 +4,7 @@
 
 namespace tessoro {
 
-/// A yellow smiling face with a black outline, black eyes and a red mouth: a corner is right.
+/// A yellow smiling face with a black outline, black eyes and a red mouth. It marks a right corner.
 extern const platform::Picture smilingFace;
 
 /// A calculator: a light grey body, a cyan display, and a white keypad of 16 keys. The program's

@@ -58,15 +58,7 @@ std::vector<Line> linesEndingIn(const Board& board, int cell) {
   return lines;
 }
 
-/// How a corner stands to the puzzle, as the end of a clause: once play has begun, either a smiling
-/// face or its target is shown beside it.
-std::string standing(const Board& board, int k) {
-  const Cell& target = board.GridDisp[OuterCornerCells[k]];
-  if (board.NPict[k].Visible()) return ", correct";
-  return target.Visible() ? ", target " + target.caption() : "";
-}
-
-/// The end of a line: its value, and how that stands to the puzzle if it is a corner.
+/// Returns the end of a line: its value and, if it ends in a corner, the corner's standing.
 std::string endOfLine(const Line& line) {
   const int result = line.cellAt(6);
   const int k = cornerOf(result);
@@ -91,14 +83,10 @@ std::string spokenLine(const std::string& name, const Line& line) {
   return ends ? words + endOfLine(line) : words;
 }
 
-Accessible::Action press() {
-  return {"Press", MouseButton::left};
-}
-Accessible::Action decrease() {
-  return {"Decrease", MouseButton::right};
-}
+constexpr Accessible::Action press{"Press", MouseButton::left};
+constexpr Accessible::Action decrease{"Decrease", MouseButton::right};
 
-/// What a cell shows, then its place.
+/// Returns what a cell shows, then its place.
 std::string describe(int index, const Board& board) {
   return spokenCell(board, index) + ", row " + numberText(rowOf(index)) + " column " +
          numberText(columnOf(index));
@@ -108,28 +96,23 @@ Accessible describedCell(int index, const Board& board) {
   const auto name = [index, &board] { return describe(index, board); };
   switch (roleOf(index)) {
     case CellRole::number:
-      return {Accessible::Role::button, name, {press(), decrease()}, true};
-    case CellRole::rowOperator:
-    case CellRole::columnOperator:
-      return {Accessible::Role::button, name, {press()}, true};
-    case CellRole::equals:
-    case CellRole::rowResult:
-    case CellRole::columnResult:
-    case CellRole::grandResult:
-      return {Accessible::Role::label, name, {}, true};
+      return {Accessible::Role::button, name, {press, decrease}, true};
+    case CellRole::operatorSign:
+      return {Accessible::Role::button, name, {press}, true};
     case CellRole::hole:
     case CellRole::outerCorner:
     case CellRole::spare:
-      break;
+      return {};
+    default:
+      return {Accessible::Role::label, name, {}, true};
   }
-  return {};
 }
 
 void describeCorner(int k, Board& board) {
   const auto name = [k, &board] { return describe(CornerCells[k], board) + standing(board, k); };
   // The user sets the corners' numbers when stating a puzzle.
   board.GridDisp[CornerCells[k]].accessible = {
-      Accessible::Role::button, name, {press(), decrease()}, true};
+      Accessible::Role::button, name, {press, decrease}, true};
   Cell& target = board.GridDisp[OuterCornerCells[k]];
   target.accessible = {Accessible::Role::label,
                        [k, &target] { return cornerName(k) + " target " + target.caption(); },
@@ -139,7 +122,7 @@ void describeCorner(int k, Board& board) {
 }
 
 void describeButton(Cell& button) {
-  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press()}};
+  button.accessible = {Accessible::Role::button, [&button] { return button.caption(); }, {press}};
 }
 
 }  // namespace
@@ -154,11 +137,10 @@ std::string spoken(const std::string& caption) {
 std::string spokenCell(const Board& board, int cell) {
   const std::string& caption = board.GridDisp[cell].caption();
   if (caption != noNumber) return spoken(caption);
-  // One that the user has yet to state.
   if (cornerOf(cell) != 0 && standing(board, cornerOf(cell)).empty()) return "not set";
   bool full = false;
   for (const Line& line : linesEndingIn(board, cell)) {
-    // The grand result has no value while any other has none.
+    // The grand result has no value while another result has none.
     if (!line.hasNumbers()) return spoken(caption);
     full = full || line.isFullWithoutDigit();
   }
@@ -167,6 +149,12 @@ std::string spokenCell(const Board& board, int cell) {
 
 std::string cornerName(int k) {
   return std::string(cornerNames[k]);
+}
+
+std::string standing(const Board& board, int k) {
+  const Cell& target = board.GridDisp[OuterCornerCells[k]];
+  if (board.NPict[k].Visible()) return ", correct";
+  return target.Visible() ? ", target " + target.caption() : "";
 }
 
 std::string spokenRow(const Board& board, int row) {

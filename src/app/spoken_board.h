@@ -8,30 +8,34 @@
 /// The main window in words, for players who do not see it.
 namespace tessoro {
 
-/// A result, while its line is not full.
+/// Spoken for a result whose line is not full.
 constexpr std::string_view noValue = "no value";
 
-/// Tells what each control is and shows, and what can be done to it.
+/// Gives each control its role, its name in words and its actions.
 void describeForScreenReaders(Form1& form);
 
-/// A caption in words: "empty", "no value", "plus"; digits stay as they are.
+/// Returns a caption in words: "empty", "no value", "plus". Digits stay as they are.
 std::string spoken(const std::string& caption);
 
-/// What cell 1..49 shows in words: its caption, but for "?" also "no digit", where a line that ends
-/// there is full, and "not set" in a corner that the user has yet to state. Whoever sees the board
-/// knows which it is.
+/// Returns what cell 1..49 shows, in words. "?" reads "no digit" if a line that ends there is full,
+/// "not set" in a corner that the user has not set yet, and otherwise "no value": on the board the
+/// three look the same, but a player who sees it knows which one applies.
 std::string spokenCell(const Board& board, int cell);
 
-/// The names of the corners k = 1..4 of the board, "top left" and so on.
+/// Returns the name of corner k = 1..4: "top left" and so on.
 std::string cornerName(int k);
 
-/// A row 1..7: "Row 3: 8 minus 2 times 3 is 2", with the target or "correct" where it ends in a
-/// corner; of one that is no line, what stands there.
+/// Returns row 1..7 in words: "Row 3: 8 minus 2 times 3 is 2", with the target or "correct" if it
+/// ends in a corner. A row that is not a line lists what its cells show.
 std::string spokenRow(const Board& board, int row);
-/// The same of column 1..7, from the top down.
+/// The same for column 1..7, from the top down.
 std::string spokenColumn(const Board& board, int column);
 
-/// The four corners: what each shows, and, once play has begun, that it is correct or its target.
+/// Returns how corner k = 1..4 compares with the puzzle, as the end of a clause: ", correct" or,
+/// for example, ", target 3". Empty until play has begun.
+std::string standing(const Board& board, int k);
+
+/// Returns what each of the four corners shows, and how it compares with the puzzle.
 std::string spokenCorners(const Board& board);
 
 }  // namespace tessoro

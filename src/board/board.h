@@ -9,28 +9,26 @@ namespace tessoro {
 
 using Cell = platform::CellPane;
 
-/// The playing field. The captions of its cells are the player's position; nothing else holds it.
+/// Playing field of 54 cells. Their captions are the only record of the player's position.
 class Board {
  public:
-  /// Every cell at its place, with the look of the window layout.
+  /// Puts every cell in its place, with the look of the window layout.
   Board();
 
   std::array<Cell, boardCells> GridDisp;
-  /// The smiling faces over the outer corner cells, 1..4; element 0 is not used.
+  /// Smiling faces over the outer corner cells, 1..4; element 0 is unused.
   std::array<platform::PictureBox, 5> NPict;
 
-  /// Gives the clickable cells the codes of their lines.
+  /// Sets the tags of the clickable cells, which name their lines.
   void SetCellTags();
-  /// Empties every cell but for the "=" signs.
+  /// Empties every cell except the "=" cells.
   void clear();
-  /// The same for the grid without its four corners.
+  /// Empties every grid cell except the "=" cells and the four corners.
   void clearBetweenCorners();
 
-  /// Shows or hides the four outer corner cells.
   void setOuterCornersVisible(bool visible);
-  /// The same with the four smiling faces.
   void setSmileysVisible(bool visible);
-  /// Gives the board's four corners this background.
+  /// Sets the background of the board's four corners.
   void colourCorners(platform::Colour colour);
 
  private:

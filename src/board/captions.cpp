@@ -10,12 +10,12 @@ namespace tessoro {
 std::int16_t readNumber(std::string_view caption) {
   std::string_view text = caption;
   while (text.starts_with(' ')) text.remove_prefix(1);
-  // Nearly every text is one digit, and a search reads a great many.
+  // Fast path for the search, which reads many texts, nearly all of them one digit.
   if (text.size() == 1) {
     const int digit = text[0] - '0';
     return static_cast<std::int16_t>(isDigit(digit) ? digit : 0);
   }
-  // Letters are cut off first, since the library would take "inf" for a number.
+  // Letters are cut off because from_chars accepts "inf" and "nan".
   std::string_view decimal = text.substr(0, text.find_first_not_of("+-.0123456789"));
   if (decimal.starts_with('+') && !decimal.starts_with("+-")) decimal.remove_prefix(1);
   double value = 0;

@@ -6,28 +6,26 @@
 
 namespace tessoro {
 
-/// What shows in place of a number where there is none: in the result of a line without a value,
-/// and in a corner that the user has yet to state.
+/// Caption for a missing number: the result of a line without a value, or a corner not set yet.
 constexpr std::string_view noNumber = "?";
 
-/// Whether the value may stand on the board: all its numbers are digits 1..9.
+/// Returns whether the value is a digit 1..9, the only numbers allowed on the board.
 constexpr bool isDigit(int value) {
   return value >= 1 && value <= 9;
 }
 
-/// The number a caption shows: its longest decimal prefix after leading blanks, rounded half to
-/// even, kept within 16 signed bits; 0 where there is none. So "", "?", "=" and operators read as
-/// 0.
+/// Returns the longest decimal prefix after leading blanks, rounded half to even and clamped to
+/// 16 signed bits. Text without one, such as "", "?", "=" or an operator, reads as 0.
 std::int16_t readNumber(std::string_view caption);
 
-/// The number as captions show it: its decimal digits without blanks.
+/// Returns the number in decimal without blanks, as captions show it.
 std::string numberText(int number);
 
-/// The number, 0 or more, as the solution and the headings keep it: with a blank where a minus sign
-/// would stand.
+/// Returns the number, 0 or more, with a blank in place of a minus sign, as the solution and the
+/// page headings store it.
 std::string signedNumberText(int number);
 
-/// The text without the blanks around it.
+/// Returns the text without leading and trailing blanks.
 std::string_view trimmed(std::string_view text);
 
 }  // namespace tessoro

@@ -5,7 +5,7 @@ namespace {
 
 constexpr int cellSize = 450;
 
-// The steps are not uniform: where one is 420, neighbours overlap by 30.
+// In twips. The steps are uneven: where one is 420, neighbouring cells overlap by 30.
 constexpr std::array<int, gridSide> columnLeft{630, 1080, 1530, 1980, 2400, 2850, 3300};
 constexpr std::array<int, gridSide> rowTop{780, 1230, 1650, 2100, 2550, 3000, 3420};
 

@@ -10,7 +10,7 @@ constexpr std::string_view OpPlus = "+";
 constexpr std::string_view OpMinus = "-";
 constexpr std::string_view OpTimes = "*";
 
-/// The operator pairs of a line in the order in which a search tries them; element 0 is not used.
+/// Operator pairs of a line in search order; element 0 is unused.
 constexpr std::array<std::string_view, 10> OpPairs{"",   "++", "+-", "--", "-+",
                                                    "+*", "*+", "-*", "*-", "**"};
 constexpr std::size_t PairCount = 9;

@@ -10,7 +10,7 @@ void StartUp::Form_Load() {
   for (int cell = 0; cell < boardCells; ++cell) setLook(cell);
   board_.colourCorners(ColGreen);
   for (int k = 1; k <= 4; ++k) board_.GridDisp[CornerCells[k]].forecolor = ColWhite;
-  // The top left corner is a number of the puzzle, not one for the player to find.
+  // The puzzle gives the number at the top left, so the player cannot change it.
   board_.GridDisp[CornerCells[1]].enabled = false;
   board_.SetCellTags();
   search_.FindSolution();
@@ -18,29 +18,14 @@ void StartUp::Form_Load() {
 
 void StartUp::setLook(int index) {
   Cell& cell = board_.GridDisp[index];
-  switch (roleOf(index)) {
-    case CellRole::outerCorner:
-      cell.Visible = false;
-      cell.backcolor = ColGreen;
-      cell.forecolor = ColWhite;
-      cell.enabled = false;
-      break;
-    case CellRole::hole:
-      cell.backcolor = ColBlack;
-      cell.enabled = false;
-      break;
-    case CellRole::equals:
-    case CellRole::rowResult:
-    case CellRole::columnResult:
-    case CellRole::grandResult:
-      cell.enabled = false;
-      break;
-    case CellRole::number:
-    case CellRole::rowOperator:
-    case CellRole::columnOperator:
-    case CellRole::spare:
-      break;
-  }
+  const CellRole role = roleOf(index);
+  cell.enabled =
+      role == CellRole::number || role == CellRole::operatorSign || role == CellRole::spare;
+  if (role == CellRole::hole) cell.backcolor = ColBlack;
+  if (role != CellRole::outerCorner) return;
+  cell.Visible = false;
+  cell.backcolor = ColGreen;
+  cell.forecolor = ColWhite;
 }
 
 }  // namespace tessoro

@@ -9,8 +9,7 @@
 
 namespace tessoro {
 
-/// The main window's load and unload events: the life of the program from its first puzzle to its
-/// end.
+/// Handlers of the main window's load and unload events.
 class StartUp {
  public:
   StartUp(Board& board, PrintPage& page, SolutionSearch& search, platform::Label& CompMess,
@@ -22,9 +21,8 @@ class StartUp {
         Solveit_(Solveit),
         desktop_(desktop) {}
 
-  /// Gives every cell its start-up look, and makes the first puzzle.
+  /// Gives every cell its start-up look and makes the first puzzle.
   void Form_Load();
-  /// Ends the program at once.
   void Form_Unload() { desktop_.endProgram(); }
 
  private:

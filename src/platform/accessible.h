@@ -2,26 +2,27 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/mouse.h"
 
 namespace platform {
 
-/// How a control presents itself to assistive technology, such as a screen reader.
+/// Accessibility data of a control, for screen readers and other assistive technology.
 struct Accessible {
   enum class Role { none, label, button, image };
 
-  /// Something the user can have done to an enabled control; it stands for a press of the button.
+  /// Named action on an enabled control. It presses the mouse button on the control.
   struct Action {
-    std::string name;
+    std::string_view name;
     MouseButton button = MouseButton::left;
   };
 
-  Role role = Role::none;             ///< with `none` the control is not presented at all
-  std::function<std::string()> name;  ///< the control in words, as it is at the moment
+  Role role = Role::none;             ///< `none` hides the control
+  std::function<std::string()> name;  ///< returns the current description
   std::vector<Action> actions;
-  /// One of a grid of controls that the arrow keys go through, and that Tab takes as one.
+  /// Whether the control belongs to a grid: arrow keys move within it, and it is one Tab stop.
   bool inGrid = false;
 };
 

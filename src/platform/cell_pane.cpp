@@ -3,13 +3,13 @@
 namespace platform {
 
 void CellPane::press(const MousePress& press) {
-  armed_ = takesInput() && press.button == MouseButton::left;
-  if (!takesInput()) {
+  armed_ = acceptsInput() && press.button == MouseButton::left;
+  if (!acceptsInput()) {
     if (Visible() && refused) refused();
     return;
   }
   if (mouseDown) mouseDown(press);
-  if (press.button == MouseButton::right && contextMenu && takesInput()) {
+  if (press.button == MouseButton::right && contextMenu && acceptsInput()) {
     contextMenu(press.shift, press.x, press.y);
   }
 }
@@ -17,7 +17,7 @@ void CellPane::press(const MousePress& press) {
 void CellPane::release(MouseButton button, bool inside) {
   if (button != MouseButton::left || !armed_) return;
   armed_ = false;
-  if (inside && takesInput() && click) click();
+  if (inside && acceptsInput() && click) click();
 }
 
 }  // namespace platform

@@ -9,22 +9,21 @@
 
 namespace platform {
 
-/// A display cell: a short text in its own colours and border that reports mouse input and typed
-/// characters.
+/// Display cell: a short text with its own colours and border that reports mouse and key input.
 ///
-/// The window that shows it passes every mouse press and release on; which presses and
-/// releases become events is decided here, so a disabled or hidden cell is silent whatever shows
-/// it. A cell with a `click` handler is a button: it draws its caption greyed while disabled.
+/// The window passes on every mouse press and release. The cell decides which of them become
+/// events, so that a disabled or hidden cell never raises one, whatever window shows it. A cell
+/// with a `click` handler is a button, whose caption is greyed while it is disabled.
 class CellPane final : public Control {
  public:
   Property<std::string> caption{*this, ""};
   Property<Colour> backcolor{*this, buttonFace};
   Property<Colour> forecolor{*this, windowText};
   Property<bool> enabled{*this, true};
-  /// Free text kept for the program.
+  /// Free text for the program's use.
   Property<std::string> Tag{*this, ""};
 
-  // Fixed by the form's layout.
+  // Set once by the form's layout.
   std::string font = "Arial";
   double fontsize = 14.4;  // points
   bool fontbold = true;
@@ -32,34 +31,33 @@ class CellPane final : public Control {
   Colour borderleft = highlight3D;
   Colour borderright = shadow3D;
   Colour borderbottom = shadow3D;
-  /// 0, the one style there is: the caption centred on the plain background.
+  /// Always 0: the caption centred on the plain background.
   std::int16_t drawstyle = 0;
-  /// What would lie behind a picture; no cell carries one.
+  /// Background of a picture; no cell has one.
   Colour picback = buttonFace;
 
-  /// Any mouse button went down.
+  /// Called when any mouse button goes down.
   std::function<void(const MousePress&)> mouseDown;
-  /// A press on the cell, which is visible but disabled, did nothing.
+  /// Called when a press is ignored because the cell is disabled.
   std::function<void()> refused;
-  /// The left button went down and came up again inside the cell, which took input both times and
-  /// met no other press in between.
+  /// Called when the left button goes down and up inside the cell, without another press between.
   std::function<void()> click;
-  /// A character was typed while the cell, disabled or not, had the focus; letters are small ones,
-  /// and `shift` tells whether that key was down. The result is whether it means anything there.
+  /// Called when a character, in lower case, is typed while the cell has the focus, even if it is
+  /// disabled. Returns whether the character has a meaning there.
   std::function<bool(char character, bool shift)> typed;
-  /// The right button went down; the arguments are the shift state and the point.
+  /// Called when the right button goes down, with the shift state and the point in twips.
   std::function<void(std::int16_t shift, double x, double y)> contextMenu;
 
-  /// Whether it is worked by clicks, as a button is; other cells take presses alone.
+  /// Returns whether the cell reacts to clicks; other cells react to presses only.
   bool isButton() const { return static_cast<bool>(click); }
 
-  /// A mouse button went down on the cell.
+  /// Handles a mouse button going down on the cell.
   void press(const MousePress& press);
-  /// A button came up, inside the cell or not, after one had gone down on the cell.
+  /// Handles the release of a button that went down on the cell; `inside` is where it comes up.
   void release(MouseButton button, bool inside);
 
  private:
-  bool takesInput() const { return Visible() && enabled(); }
+  bool acceptsInput() const { return Visible() && enabled(); }
 
   bool armed_ = false;
 };

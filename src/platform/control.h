@@ -12,8 +12,8 @@
 
 namespace platform {
 
-/// A rectangle in twips (1/1440 inch), measured from the top left of what holds the control: the
-/// frame around it, or else the form's client area.
+/// Rectangle in twips (1/1440 inch), relative to the top left of the enclosing frame, or of the
+/// form's client area.
 struct Place {
   int left = 0;
   int top = 0;
@@ -21,33 +21,31 @@ struct Place {
   int height = 0;
 };
 
-/// A typeface by name, its size in points, and its weight.
 struct Font {
   std::string name = "MS Sans Serif";
   double points = 7.8;
   bool bold = true;
 };
 
-/// What every control has: a place, given once when its form is laid out, visibility, and what
-/// assistive technology is told of it.
+/// Base of all controls. Its place and accessibility data are set once, when the form is laid out.
 class Control : public Observable {
  public:
   Place place;
   Accessible accessible;
   Property<bool> Visible{*this, true};
 
-  /// Gives the control the focus, as the keys do; without effect while no window shows it.
+  /// Gives the control the keyboard focus; does nothing while no window shows it.
   void SetFocus() const {
     if (focusWanted) focusWanted();
   }
-  /// Set by the window that shows the control, if it can have the focus.
+  /// Set by the window that shows the control, if it accepts the focus.
   std::function<void()> focusWanted;
 
  protected:
   ~Control() = default;
 };
 
-/// One line of text, centred in its place.
+/// Line of text, centred in its place.
 class Label final : public Control {
  public:
   Label() {
@@ -60,27 +58,27 @@ class Label final : public Control {
   Font font;
 };
 
-/// A picture on the button-face colour, centred in its place and drawn without a border.
+/// Picture without a border, centred on the button-face colour.
 class PictureBox final : public Control {
  public:
-  const Picture* picture = nullptr;  ///< none, and only the background is drawn
+  const Picture* picture = nullptr;  ///< null draws only the background
 };
 
-/// Lines of text that can be read but not changed, centred, on the button-face colour.
+/// Read-only lines of text, centred on the button-face colour.
 class TextBox final : public Control {
  public:
-  std::string text;  ///< its lines, each but the last with a newline at its end
+  std::string text;  ///< lines separated by newlines
   Font font;
-  /// Any mouse button went down over the text.
+  /// Called when any mouse button goes down over the text.
   std::function<void()> mouseDown;
 };
 
-/// A button as the desktop draws it, worked by mouse or keyboard.
+/// Native push button.
 class CommandButton final : public Control {
  public:
   std::string caption;
   Font font;
-  /// It was pressed and released, by the mouse or the keys.
+  /// Called when the button is clicked, or pressed by a key.
   std::function<void()> click;
 };
 
@@ -89,11 +87,10 @@ class Frame;
 
 using ControlRef = std::variant<CellPane*, Label*, PictureBox*, Frame*, TextBox*, CommandButton*>;
 
-/// The controls that a form or a frame holds, from the one farthest back to the one in front.
+/// Controls of a form or a frame, from back to front.
 using Controls = std::vector<ControlRef>;
 
-/// An etched border without a caption around the controls it holds. Hiding it hides the border
-/// alone.
+/// Etched border, without a caption, around its controls. Hiding it hides only the border.
 class Frame final : public Control {
  public:
   Controls controls;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 #include "platform/form.h"
@@ -9,49 +8,35 @@
 
 namespace platform {
 
-/// What the program asks of the desktop it runs on, besides showing its controls.
+/// Services of the desktop that the program uses, besides showing its controls.
 class Desktop {
  public:
-  enum class Buttons { ok, yesNo };
+  /// `yesNo` has Yes as its default, the button that Return presses.
+  enum class Buttons { ok, yesNo, yesNoDefaultNo };
   enum class Answer { ok, yes, no };
 
-  Desktop() = default;
-  Desktop(const Desktop&) = delete;
-  Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
-
-  /// Called before a message box is shown.
-  std::function<void()> boxOpens;
 
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
-  Answer messageBox(std::string_view text, Buttons buttons) {
-    if (boxOpens) boxOpens();
-    return showMessageBox(text, buttons);
-  }
-  /// Has a screen reader, if one listens, speak the sentence.
+  virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
+  /// Makes a screen reader, if one is running, speak the sentence.
   virtual void announce(std::string_view sentence) = 0;
 
-  /// Lets the windows process their pending events; their handlers run inside the call.
+  /// Processes the windows' pending events; their handlers run inside the call.
   virtual void yield() = 0;
 
-  /// The local time of day in seconds since midnight, with fractions: 0 <= t < 86400.
+  /// Returns the time of day in seconds since midnight, with fractions: 0 <= t < 86400.
   virtual double secondsSinceMidnight() = 0;
 
-  /// Shows the form modal over the main window, which takes no input meanwhile, and returns when
-  /// the form has been closed.
+  /// Shows the form modal over the main window and returns when the form has been closed.
   virtual void showModal(Form& form) = 0;
 
-  /// The printer that pages are sent to.
   virtual Printer& printer() = 0;
-  /// The viewer of help files.
   virtual HelpViewer& helpViewer() = 0;
 
   /// Ends the program at once: no further handler runs, and the windows close with it.
   [[noreturn]] virtual void endProgram() = 0;
-
- protected:
-  virtual Answer showMessageBox(std::string_view text, Buttons buttons) = 0;
 };
 
 }  // namespace platform

@@ -9,24 +9,24 @@
 
 namespace platform {
 
-/// An item of a menu. One whose caption is "-" is a separator.
+/// Menu item, or a separator if its caption is "-".
 class MenuItem final : public Observable {
  public:
   explicit MenuItem(std::string text) : caption{*this, std::move(text)} {}
 
   Property<std::string> caption;
   Property<bool> enabled{*this, true};
-  /// The items of the menu that this one opens, from the top down.
+  /// Items of the submenu, from the top down.
   std::vector<MenuItem*> items;
   std::function<void()> click;
 
-  /// The user chose the item; a disabled item does not react.
+  /// Runs the item's command, unless it is disabled.
   void choose() const {
     if (enabled() && click) click();
   }
 };
 
-/// A window of fixed size. The menu bar, if it has one, lies outside the client area.
+/// Window of fixed size. Its menu bar lies outside the client area.
 class Form : public Observable {
  public:
   Property<std::string> caption{*this, ""};
@@ -35,13 +35,13 @@ class Form : public Observable {
   const Picture* icon = nullptr;
   std::vector<MenuItem*> menus;
   Controls controls;
-  /// True while a modal form is shown; setting it to false closes the form.
+  /// Whether a modal form is shown; setting it to false closes the form.
   Property<bool> Visible{*this, false};
-  /// The user has told the window to close.
+  /// Called when the user closes the window.
   std::function<void()> unload;
-  /// The user has asked for help, by its key.
+  /// Called when the user presses the help key.
   std::function<void()> help;
-  /// A key leads nowhere: beyond the edge of the grid of controls, or from a control outside it.
+  /// Called when a key that moves the focus has nowhere to go, such as at the grid's edge.
   std::function<void()> edgeReached;
 
  protected:

@@ -5,8 +5,8 @@
 
 namespace platform {
 
-/// A picture of 32 by 32 pixels. Each character is one pixel: a hexadecimal digit is a colour of
-/// the classic 16-colour palette, '.' lets what lies behind show through.
+/// Picture of 32 by 32 pixels, one character each: a hexadecimal digit is a colour of the classic
+/// 16-colour palette, '.' is transparent.
 struct Picture {
   static constexpr int size = 32;
   std::array<std::string_view, size> rows;

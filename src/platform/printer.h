@@ -4,26 +4,22 @@
 
 namespace platform {
 
-/// Prints lines of text, one below the other, at 6 lines to the inch. A document begins with the
-/// first line after the last document's end.
+/// Printer of text documents at 6 lines per inch. The first line after a document's end begins the
+/// next document.
 class Printer {
  public:
-  Printer() = default;
-  Printer(const Printer&) = delete;
-  Printer& operator=(const Printer&) = delete;
   virtual ~Printer() = default;
 
-  /// The typeface, in which every character is as wide as the next.
+  /// Sets the fixed-pitch typeface.
   virtual void setFontName(std::string_view name) = 0;
-  /// The size of the font in points.
+  /// Sets the font size in points.
   virtual void setFontSize(double points) = 0;
 
-  /// Adds a line to the document.
   virtual void printLine(std::string_view text) = 0;
 
-  /// Ends the document and releases it to the printer. Returns when the print system has accepted
-  /// it, or the user has been told that it has not or may not have; till then the main window takes
-  /// no input. The document is gone in each case.
+  /// Sends the document to the printer and discards it. Returns when the print system has accepted
+  /// it, or when the user has closed the message about a failure. The main window ignores input
+  /// until then.
   virtual void endDocument() = 0;
 };
 

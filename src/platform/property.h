@@ -5,8 +5,7 @@
 
 namespace platform {
 
-/// An object on the screen that tells one listener, the window that shows it, when any of its
-/// properties has taken another value.
+/// Object that notifies one listener, the window that shows it, when a property changes.
 class Observable {
  public:
   Observable() = default;
@@ -19,7 +18,7 @@ class Observable {
   ~Observable() = default;
 };
 
-/// One property of an observable object. Read it by calling it, write it by assignment.
+/// Property of an observable object, read by a call and written by assignment.
 template <typename Value>
 class Property {
  public:
@@ -30,7 +29,7 @@ class Property {
 
   const Value& operator()() const { return value_; }
 
-  /// Takes the value, and notifies unless it is the value already held.
+  /// Stores the value and notifies the listener if it differs from the old one.
   Property& operator=(const Value& value) {
     if (value_ == value) return *this;
     value_ = value;

@@ -5,7 +5,7 @@
 namespace tessoro {
 
 bool CornerCheck::isRight(int k) const {
-  // Without a puzzle both read as 0, and nothing is right.
+  // A missing number reads as 0 on both sides, which is never right.
   const int number = readNumber(state_.SolNumbers[cornerNumbers[k]]);
   return number != 0 && number == readNumber(board_.GridDisp[CornerCells[k]].caption());
 }
@@ -23,6 +23,7 @@ void CornerCheck::CheckCorners() {
   if (!solved) return;
   RightMess_.Visible = false;
   state_.BoardLocked = true;
+  if (beforeMessage) beforeMessage();
   desktop_.messageBox("You got it !", platform::Desktop::Buttons::ok);
 }
 

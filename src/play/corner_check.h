@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "board/board.h"
 #include "board/puzzle_state.h"
 #include "platform/control.h"
@@ -7,16 +9,18 @@
 
 namespace tessoro {
 
-/// Compares the board's corners with the puzzle's, and ends the puzzle when all four are right.
+/// Comparison of the board's corners with the puzzle's, which detects the solved puzzle.
 class CornerCheck {
  public:
   CornerCheck(PuzzleState& state, Board& board, platform::Label& RightMess,
               platform::Desktop& desktop)
       : state_(state), board_(board), RightMess_(RightMess), desktop_(desktop) {}
 
-  /// A right corner turns green under a smiling face, a wrong one black beside its target. With
-  /// four right the board is locked and the player told; returns when the message is closed.
+  /// Shows each right corner in green with a smiling face, each wrong one in black with its target.
+  /// When all four are right, locks the board, shows a message and returns after it is closed.
   void CheckCorners();
+  /// Called before that message.
+  std::function<void()> beforeMessage;
 
  private:
   bool isRight(int k) const;

@@ -9,8 +9,8 @@
 namespace tessoro {
 namespace {
 
-/// The next digit: upwards from 9 comes 1, downwards from 1 comes 9, and what shows no digit counts
-/// as 0.
+/// Returns the digit one up or down, wrapping between 9 and 1. A caption without a digit counts as
+/// 0.
 std::string nextDigit(std::string_view caption, platform::MouseButton button) {
   const bool down = button == platform::MouseButton::right;
   const int digit = readNumber(caption) + (down ? -1 : 1);
@@ -32,16 +32,20 @@ void Moves::GridDisp_MouseDown(int Index, const platform::MousePress& press) {
   setCell(Index, isOperator(Index) ? nextOperator(caption) : nextDigit(caption, press.button));
 }
 
-bool Moves::canShow(int index, char character) const {
-  const std::string_view text(&character, 1);
-  if (isOperator(index)) return text == OpPlus || text == OpMinus || text == OpTimes;
-  const bool isNumber = state_.SolveMode ? cornerOf(index) != 0 : roleOf(index) == CellRole::number;
-  return isNumber && isDigit(character - '0');
+bool Moves::canSet(int index) const {
+  if (state_.SolveMode) return cornerOf(index) != 0;
+  return board_.GridDisp[index].enabled() && !state_.BoardLocked;
 }
 
-void Moves::showCharacter(int index, char character) {
-  const std::string caption(1, character);
-  if (board_.GridDisp[index].caption() != caption) setCell(index, caption);
+bool Moves::fits(int index, char character) const {
+  const std::string_view text(&character, 1);
+  if (isOperator(index)) return text == OpPlus || text == OpMinus || text == OpTimes;
+  return isDigit(character - '0');
+}
+
+void Moves::typeCharacter(int index, char character) {
+  setCell(index,
+          fits(index, character) ? std::string(1, character) : board_.GridDisp[index].caption());
 }
 
 bool Moves::isOperator(int index) const {
@@ -49,23 +53,19 @@ bool Moves::isOperator(int index) const {
 }
 
 void Moves::setCell(int index, const std::string& caption) {
+  // While a puzzle is stated, an event on any cell wakes the button, even if nothing is set.
+  if (state_.SolveMode) Solveit_.enabled = true;
+  Cell& cell = board_.GridDisp[index];
+  if (!canSet(index) || cell.caption() == caption) return;
   if (state_.SolveMode) {
-    inputCorner(index, caption);
+    cell.caption = caption;
+    state_.*cornerTargets[cornerOf(index)] = readNumber(caption);
   } else {
     play(index, caption);
   }
 }
 
-void Moves::inputCorner(int index, const std::string& caption) {
-  Solveit_.enabled = true;
-  const int k = cornerOf(index);
-  if (k == 0) return;
-  board_.GridDisp[index].caption = caption;
-  state_.*cornerTargets[k] = readNumber(caption);
-}
-
 void Moves::play(int index, const std::string& caption) {
-  if (state_.BoardLocked) return;
   if (!board_.GridDisp[OuterCornerCells[1]].Visible()) beginMove();
   Cell& cell = board_.GridDisp[index];
   cell.caption = caption;
@@ -78,8 +78,8 @@ void Moves::play(int index, const std::string& caption) {
   cornerCheck_.CheckCorners();
 }
 
-/// Every move but those on a board whose top left corner is wrong begins with this, since a right
-/// corner hides its outer corner cell.
+/// Runs before every move while the top left corner is right, since a right corner hides its outer
+/// corner cell.
 void Moves::beginMove() {
   board_.setOuterCornersVisible(true);
   results_.updateAll();

@@ -11,8 +11,8 @@
 
 namespace tessoro {
 
-/// What a mouse press or a typed character on the board does: a move of the player, or, while the
-/// user states a puzzle, the input of a corner's number.
+/// Handlers of mouse presses and typed characters on the board. In play they make the player's
+/// moves; while the user states a puzzle, they set the corners' numbers.
 class Moves {
  public:
   Moves(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -24,21 +24,23 @@ class Moves {
         RightMess_(RightMess),
         Solveit_(Solveit) {}
 
-  /// A mouse button went down on cell `Index`, 0..53; on one above 49 it does nothing. The right
-  /// button steps a number down, any other up; an operator moves on with every button. There is no
-  /// guard against result, "=" or hole cells: they are disabled and raise no event.
+  /// Handles a mouse button pressed on cell `Index`, 0..53; above 49 it does nothing. The right
+  /// button counts a digit down, any other up; every button shows the next operator.
   void GridDisp_MouseDown(int Index, const platform::MousePress& press);
-  /// Whether the character can stand in cell 1..49: a digit 1..9 in a number, and in a corner while
-  /// the user states a puzzle, or an operator.
-  bool canShow(int index, char character) const;
-  /// Has the cell show a character that can stand there, in one move: as if it had stood one step
-  /// before and had been pressed with the left button. One that stands there already is no move.
-  void showCharacter(int index, char character);
+
+  /// Returns whether cell 0..53 can be set now: in play a number or an operator, until the puzzle
+  /// is over, and while the user states a puzzle a corner.
+  bool canSet(int index) const;
+  /// Returns whether the character fits into a cell that can be set: an operator into an operator
+  /// cell, a digit 1..9 into any other.
+  bool fits(int index, char character) const;
+  /// Handles a character typed on an enabled cell 1..49: sets the cell to it if it fits. In play,
+  /// typing what the cell already shows is not a move.
+  void typeCharacter(int index, char character);
 
  private:
   bool isOperator(int index) const;
   void setCell(int index, const std::string& caption);
-  void inputCorner(int index, const std::string& caption);
   void play(int index, const std::string& caption);
   void beginMove();
 

@@ -18,11 +18,9 @@ void NewGame::NewPuz_Click() {
 
 void NewGame::StartSolx_Click() {
   state_.SolveMode = false;
-  // The results are drawn too, like the numbers, and then overwritten.
+  // Draws digits for the results, too; updateAll() overwrites them.
   for (int k = 1; k <= 16; ++k) {
     board_.GridDisp[numberCells[k]].caption = numberText(digits_.draw());
-  }
-  for (int k = 1; k <= 16; ++k) {
     board_.GridDisp[operatorCells[k]].caption = std::string(OpPlus);
   }
   board_.GridDisp[CornerCells[1]].caption = std::string(trimmed(state_.SolNumbers[1]));

@@ -11,7 +11,7 @@
 
 namespace tessoro {
 
-/// The two commands that put a fresh position on the board.
+/// Commands that begin a new puzzle or a new position.
 class NewGame {
  public:
   NewGame(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -26,11 +26,10 @@ class NewGame {
         digits_(digits),
         RightMess_(RightMess) {}
 
-  /// The button "New Puzzle": clears the board and has a new puzzle made, leaving set-a-puzzle mode
-  /// first.
+  /// Leaves set-a-puzzle mode if it is on, clears the board and makes a new puzzle.
   void NewPuz_Click();
-  /// The menu command "Start a Solution": fills the board with random numbers, the puzzle's own at
-  /// the top left, and "+" everywhere, to be worked on from there.
+  /// Fills the board with random numbers and "+" as a start, except the given number at the top
+  /// left.
   void StartSolx_Click();
 
  private:

@@ -6,16 +6,16 @@
 
 namespace tessoro {
 
-/// Gives a puzzle up: writes its solution onto the board.
+/// Display of the solution on the board.
 class SolutionDisplay {
  public:
   SolutionDisplay(PuzzleState& state, Board& board, platform::Label& RightMess)
       : state_(state), board_(board), RightMess_(RightMess) {}
 
-  /// The menu command: shows the solution and ends play on this puzzle.
+  /// Gives the puzzle up: shows its solution and ends play on it.
   void ShowSolx_Click();
-  /// Writes the stored solution onto the board as it is stored, its corners green. After a search
-  /// that gave up it is not the solution of any puzzle.
+  /// Writes the stored solution onto the board, with green corners. After a search that gave up the
+  /// stored solution is incomplete.
   void ShowSolution();
 
  private:

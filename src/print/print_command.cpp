@@ -7,9 +7,9 @@ namespace tessoro {
 namespace {
 
 constexpr int emptyLinesAbove = 4;
-constexpr std::size_t blanksBefore = 5;
+constexpr std::size_t indentation = 5;
 
-/// The puzzle number in a heading line, as text; empty for a slot not used yet.
+/// Returns the puzzle number in a heading line as text; empty for an unused slot.
 std::string_view numberIn(std::string_view heading) {
   if (!heading.starts_with(PrintPage::headingText)) return {};
   heading.remove_prefix(PrintPage::headingText.size());
@@ -39,7 +39,7 @@ void PrintCommand::PrintX_Click() {
   printer.setFontSize(12);
   for (int line = 0; line < emptyLinesAbove; ++line) printer.printLine("");
   for (int line = 1; line <= PrintPage::lineCount; ++line) {
-    printer.printLine(std::string(blanksBefore, ' ') + page_.PrintLines[line]);
+    printer.printLine(std::string(indentation, ' ') + page_.PrintLines[line]);
   }
   printer.endDocument();
 }

@@ -7,13 +7,13 @@
 
 namespace tessoro {
 
-/// The menu command "Print".
+/// Handler of the menu command "Print".
 class PrintCommand {
  public:
   PrintCommand(const PrintPage& page, platform::Desktop& desktop)
       : page_(page), desktop_(desktop) {}
 
-  /// Asks whether to print the puzzles on the page, naming them, and on Yes prints the page.
+  /// Asks whether to print the puzzles, listing their numbers, and prints the page on Yes.
   void PrintX_Click();
 
  private:

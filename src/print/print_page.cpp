@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t lineWidth = 70;
 
-// The columns, counted from 1, at which the two grids of a slot begin.
+// First columns, counted from 1, of the two grids of a slot.
 constexpr int puzzleGrid = 1;
 constexpr int solutionGrid = 40;
 
@@ -18,19 +18,20 @@ constexpr std::string_view cellLine = "|   |   |   |   |   |   |   |";
 constexpr std::string_view separatorLine = "|---|---|---|---|---|---|---|";
 constexpr std::string_view holeMark = "///";
 
-/// The index in its line of the first of a cell's three inner characters.
+/// Returns the index in the line of the first of a cell's three inner characters.
 constexpr std::size_t innerStart(int grid, int cell) {
   return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
 }
 
-constexpr int lineOf(int heading, int cell) {
+/// Returns the line of the page on which a cell of the slot under `heading` stands.
+constexpr int pageLine(int heading, int cell) {
   return heading + 2 * rowOf(cell);
 }
 
 }  // namespace
 
 void PrintPage::InitPrintPage() {
-  // Line 1, the first heading, stays empty until there is a puzzle to name.
+  // Line 1, the first heading, stays empty until the first puzzle.
   for (int line = 2; line <= 75; ++line) PrintLines[line].assign(lineWidth, ' ');
   for (const int heading : headings) {
     drawGrid(heading, puzzleGrid);
@@ -53,24 +54,20 @@ void PrintPage::drawGrid(int heading, int grid) {
   for (int cell = 1; cell <= gridCells; ++cell) {
     if (roleOf(cell) == CellRole::equals) write(heading, grid, cell, '=');
     if (roleOf(cell) == CellRole::hole) {
-      overwrite(lineOf(heading, cell), innerStart(grid, cell), holeMark);
+      overwrite(pageLine(heading, cell), innerStart(grid, cell), holeMark);
     }
   }
 }
 
 void PrintPage::write(int heading, int grid, int cell, char text) {
-  PrintLines[lineOf(heading, cell)][innerStart(grid, cell) + 1] = text;
+  PrintLines[pageLine(heading, cell)][innerStart(grid, cell) + 1] = text;
 }
 
 void PrintPage::RecordPuzzleForPrint() {
   const int heading = headings[(state_.PuzzleNo - 1) % 3];
   const std::string number = signedNumberText(state_.PuzzleNo);
-  std::string& line = PrintLines[heading];
-  line = headingText;
-  line += number;
-  line.append(28, ' ');
-  line += "Solution to Puzzle No";
-  line += number;
+  PrintLines[heading] =
+      std::string(headingText) + number + std::string(28, ' ') + "Solution to Puzzle No" + number;
 
   for (int k = 1; k <= 4; ++k) {
     const int cell = CornerCells[k];

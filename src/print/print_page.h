@@ -9,27 +9,25 @@
 
 namespace tessoro {
 
-/// The page of the last three puzzles, each with its solution beside it, as lines of text. It is
-/// composed as puzzles are made, so that printing needs neither the board nor the puzzle.
+/// Text page of the last three puzzles, each with its solution beside it. It is filled as puzzles
+/// are made, so printing needs neither the board nor the puzzle.
 class PrintPage {
  public:
-  /// The number of lines that are printed: elements 1..55 of `PrintLines`.
+  /// Number of printed lines: elements 1..55 of `PrintLines`.
   static constexpr int lineCount = 55;
-  /// The heading lines of the three slots; the grids of a slot stand on the 15 lines below.
+  /// Heading lines of the three slots; the 15 lines below each hold its grids.
   static constexpr std::array<int, 3> headings{1, 20, 39};
   static constexpr std::string_view headingText = "Puzzle No";
 
   PrintPage(const Board& board, const PuzzleState& state) : board_(board), state_(state) {}
 
-  /// Element k is the k-th line of the page. Of the 81, lines 1..55 are printed; lines up to 75 are
-  /// laid out, the last 20 of them blank; 0 and the rest are not used. A line of a slot is 70
-  /// characters wide, the heading of a puzzle as wide as its text, which is no wider.
+  /// Lines of the page, counted from 1. Lines 1..55 are printed and 56..75 are blank; 0 and 76..80
+  /// are unused. Grid lines are 70 characters wide, headings at most 70.
   std::array<std::string, 81> PrintLines;
 
-  /// Lays out three slots of empty grids.
+  /// Draws the empty grids of all three slots.
   void InitPrintPage();
-  /// Writes the current puzzle, its corners as the board shows them, and its solution into the
-  /// slot of its number.
+  /// Writes the board's corner captions and the solution into the slot of the puzzle's number.
   void RecordPuzzleForPrint();
 
  private:

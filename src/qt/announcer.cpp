@@ -9,10 +9,6 @@
 namespace qt {
 namespace {
 
-/// From this version on the toolkit's events of new names carry the name, and screen readers read
-/// it out where it is that of the focus or the window. Its event for sentences is as old.
-constexpr bool readsNewNames = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
-
 #if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
 
 void say(QWidget& window, const QString& sentence) {
@@ -20,13 +16,11 @@ void say(QWidget& window, const QString& sentence) {
   QAccessible::updateAccessibility(&event);
 }
 
-/// An event leaves nothing behind.
 void forget(QWidget& /*window*/) {}
 
 #else
 
-/// Of a widget that screen readers read out whenever it is shown, since the toolkit has no event
-/// for sentences.
+/// The name of a widget that screen readers read out whenever it is shown.
 constexpr const char* notificationName = "notification";
 
 QAccessibleInterface* notificationInterface(const QString& /*className*/, QObject* object) {
@@ -37,8 +31,8 @@ QAccessibleInterface* notificationInterface(const QString& /*className*/, QObjec
 void say(QWidget& window, const QString& sentence) {
   auto* notification = window.findChild<QWidget*>(notificationName);
   if (notification == nullptr) {
-    QAccessible::installFactory(notificationInterface);  // which it does once
-    // In a status bar it is read out without the word "notification" before it.
+    QAccessible::installFactory(notificationInterface);  // has no effect the second time
+    // In a status bar it is read out without the word "notification".
     auto* bar = new QStatusBar(&window);
     notification = new QWidget(bar);
     notification->setObjectName(notificationName);
@@ -50,7 +44,7 @@ void say(QWidget& window, const QString& sentence) {
   notification->show();
 }
 
-/// Else it would be read out again when the window is shown again.
+/// Keeps the sentence from being read out again when the window is shown again.
 void forget(QWidget& window) {
   if (auto* notification = window.findChild<QWidget*>(notificationName)) notification->hide();
 }
@@ -70,7 +64,7 @@ Announcer::~Announcer() {
 
 void Announcer::announce(const QString& sentence) {
   if (window_.isVisible()) {
-    speak();  // the last sentence, if the next comes before its turn
+    speak();  // the last sentence, if it is still waiting
     speakLater();
   }
   sentence_ = sentence;
@@ -80,7 +74,7 @@ void Announcer::speakLater() {
   QMetaObject::invokeMethod(this, [this] { speak(); }, Qt::QueuedConnection);
 }
 
-/// A sentence may have waited for the window to come up.
+/// Speaks a sentence that has waited for the window to open.
 bool Announcer::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ActivationChange && window_.isActiveWindow()) speakLater();
   if (event->type() == QEvent::Hide) forget(window_);
@@ -96,7 +90,7 @@ QString Announcer::takeSentence() {
 }
 
 void Announcer::introduce(const QString& text) {
-  if (readsNewNames) return announce(text);
+  if (hasAnnouncements) return announce(text);
   window_.setAccessibleDescription(text);
 }
 
@@ -113,16 +107,16 @@ void Announcer::speak() {
 }
 
 void setTitle(QWidget& window, const QString& title) {
-  if (!readsNewNames) return window.setWindowTitle(title);
+  if (!hasAnnouncements) return window.setWindowTitle(title);
   const auto ignore = [](QAccessibleEvent*) {};
   QAccessible::UpdateHandler handler = QAccessible::installUpdateHandler(ignore);
   window.setWindowTitle(title);
   QAccessible::installUpdateHandler(handler);
 }
 
-void tellNewName(QWidget& widget) {
-  // The focus told once more makes them forget the old name as well, and they read out nothing.
-  const bool readOut = readsNewNames && widget.hasFocus();
+void notifyNewName(QWidget& widget) {
+  // A focus event also makes clients drop the old name, but they read out nothing.
+  const bool readOut = hasAnnouncements && widget.hasFocus();
   QAccessibleEvent event(&widget, readOut ? QAccessible::Focus : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);
 }

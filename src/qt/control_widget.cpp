@@ -22,7 +22,7 @@ using platform::Accessible;
 using platform::CellPane;
 using platform::MouseButton;
 
-/// Left, right and middle have the same numbers there and here; those beyond are all one.
+/// Left, right and middle have the same numbers in Qt; all others are `other`.
 MouseButton toMouseButton(Qt::MouseButton button) {
   return static_cast<MouseButton>(std::min<int>(button, static_cast<int>(MouseButton::other)));
 }
@@ -33,7 +33,7 @@ std::int16_t shiftState(Qt::KeyboardModifiers modifiers) {
                                    (modifiers.testFlag(Qt::AltModifier) ? 4 : 0));
 }
 
-/// The keys that stand for a press of a mouse button.
+/// The keys that act like a press of a mouse button.
 constexpr auto pressingKeys =
     std::to_array<std::pair<int, MouseButton>>({{Qt::Key_Space, MouseButton::left},
                                                 {Qt::Key_Return, MouseButton::left},
@@ -46,7 +46,7 @@ QAccessible::Role toRole(Accessible::Role role) {
                                            : QAccessible::StaticText;
 }
 
-/// The control as assistive technology meets it.
+/// The control as accessibility clients see it.
 class AccessibleControl final : public QAccessibleWidget {
  public:
   explicit AccessibleControl(ControlWidget& control)
@@ -96,13 +96,13 @@ ControlWidget::ControlWidget(DrawnControl control, const platform::Place& place,
       view_(view),
       name_(accessible().name()),
       disabled_(isDisabled()) {
-  QAccessible::installFactory(controlInterface);  // once is enough, and the toolkit sees to that
-  // The view draws, also where this is shown or hidden.
+  QAccessible::installFactory(controlInterface);  // has no effect the second time
+  // Only the view draws, even when this widget is shown or hidden.
   setUpdatesEnabled(false);
-  setGeometry(pixelRect(place));
+  setGeometry(view.rectOf(place));
   setVisible(base(control).Visible());
   if (accessible().inGrid) {
-    setFocusPolicy(Qt::ClickFocus);  // the view lets Tab reach one of the grid
+    setFocusPolicy(Qt::ClickFocus);  // the view lets Tab reach one widget of the grid
   } else if (accessible().role == Accessible::Role::button) {
     setFocusPolicy(Qt::StrongFocus);
   }
@@ -112,10 +112,10 @@ bool ControlWidget::isDisabled() const {
   return cell_ != nullptr && !cell_->enabled();
 }
 
-void ControlWidget::tellClients() {
+void ControlWidget::notifyClients() {
   if (accessible().name() != name_) {
     name_ = accessible().name();
-    tellNewName(*this);
+    notifyNewName(*this);
   }
   if (isDisabled() != disabled_) {
     disabled_ = isDisabled();
@@ -141,10 +141,11 @@ void ControlWidget::pressLater(MouseButton button) {
 
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
   view_.setKeysUsed(false);
-  // While one button is held down, the others come here wherever they are pressed.
+  // While one button is held down, presses of the others arrive here from anywhere.
   if (cell_ == nullptr || !rect().contains(event->position().toPoint())) return;
   cell_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
-                event->position().x() * twipsPerPixel, event->position().y() * twipsPerPixel});
+                event->position().x() * view_.twipsPerPixel(),
+                event->position().y() * view_.twipsPerPixel()});
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -170,7 +171,7 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
 }
 
 bool ControlWidget::type(const QString& text, bool shift) {
-  // No character beyond ASCII means anything.
+  // No character beyond ASCII has a meaning.
   const char character = text.size() == 1 ? text.front().toLower().toLatin1() : '\0';
   return character != '\0' && cell_ != nullptr && cell_->typed && cell_->typed(character, shift);
 }

@@ -11,28 +11,26 @@ namespace qt {
 
 class FormView;
 
-/// The widget of a control that a form's view draws. It draws nothing itself, but lies at the
-/// control's place, so that the focus, the grab of the mouse, what lies under it and the tree that
-/// assistive technology reads are the toolkit's work.
+/// Invisible widget over a control that a form's view draws. Through it, Qt handles focus, mouse
+/// grab, hit testing and the accessible tree.
 class ControlWidget final : public QWidget {
  public:
-  /// The control has to outlive the widget.
+  /// The control must outlive the widget.
   ControlWidget(DrawnControl control, const platform::Place& place, FormView& view);
 
-  /// In the form's client area, twips.
+  /// Returns the place in the form's client area, in twips.
   const platform::Place& place() const { return place_; }
-  /// What assistive technology is to be told of the control.
+  /// Returns what the control presents to accessibility clients.
   const platform::Accessible& accessible() const { return base(control_).accessible; }
-  /// Whether it is a disabled cell. The widget itself is enabled all the same: what is disabled can
-  /// be read as well, and says why it does nothing.
+  /// Returns whether the control is a disabled cell. The widget itself stays enabled, so that the
+  /// cell can still be read and can explain why it does nothing.
   bool isDisabled() const;
 
-  /// Tells clients of assistive technology the name and the state, if they have changed. What is
-  /// shown, hidden or has the focus the toolkit tells by itself.
-  void tellClients();
-  /// Presses and releases a mouse button on the control, once the caller has returned: a client of
-  /// assistive technology that waits for it to be done could not answer a message box that it
-  /// brings up.
+  /// Notifies accessibility clients of a changed name or state. Qt reports by itself what is shown
+  /// or hidden and what has the focus.
+  void notifyClients();
+  /// Presses and releases a mouse button on the control after the caller has returned. An
+  /// accessibility client that waited for the press could not answer a message box opened by it.
   void pressLater(platform::MouseButton button);
 
  protected:
@@ -41,17 +39,17 @@ class ControlWidget final : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  /// Presses and releases a mouse button on the control at once.
   void press(platform::MouseButton button);
-  /// Gives the cell the character that was typed; whether it means anything there.
+  /// Passes a typed character to the cell. Returns whether the character has a meaning there.
   bool type(const QString& text, bool shift);
 
   DrawnControl control_;
-  platform::CellPane* cell_;  ///< the same, if it is a cell
+  platform::CellPane* cell_;  ///< the control if it is a cell, otherwise null
   platform::Place place_;
   FormView& view_;
-  std::string name_;  ///< as clients were last told
-  bool disabled_;     ///< the same
+  // As clients were last notified.
+  std::string name_;
+  bool disabled_;
 };
 
 }  // namespace qt

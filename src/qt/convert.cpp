@@ -18,8 +18,8 @@ QRgb pixelColour(char pixel) {
   return plainColour(platform::palette[std::string_view("0123456789ABCDEF").find(pixel)]).rgb();
 }
 
-/// The relative luminance of the colour on the screen, 0 to 1, and 0.05 for what the screen
-/// reflects.
+/// Returns the relative luminance of the colour, 0 to 1, plus 0.05 for light reflected by the
+/// screen.
 double brightness(const QColor& colour) {
   const auto linear = [](int part) {
     return part <= 10 ? part / 255.0 / 12.92 : std::pow((part / 255.0 + 0.055) / 1.055, 2.4);
@@ -28,14 +28,15 @@ double brightness(const QColor& colour) {
          0.0722 * linear(colour.blue()) + 0.05;
 }
 
-/// How much two colours stand out from each other: from 1 for the same to 21 for black and white.
+/// Returns the contrast ratio of two colours, from 1 for the same to 21 for black and white.
 double contrast(const QColor& one, const QColor& other) {
   const auto [less, more] = std::minmax({brightness(one), brightness(other)});
   return more / less;
 }
 
-/// The theme's colour where it stands out from the face, else the nearest shade of the face that
-/// does: on the way to the first of two colours, or, where that is too near, to the second.
+/// Returns the theme's own colour if its contrast to the face is at least `least`, otherwise the
+/// nearest shade with that contrast between the face and the first of `ends`, or the second if the
+/// first is too close.
 QColor standingOut(const QColor& own, const QColor& face, double least,
                    std::initializer_list<QColor> ends) {
   if (contrast(own, face) >= least) return own;
@@ -53,7 +54,7 @@ QColor standingOut(const QColor& own, const QColor& face, double least,
 }  // namespace
 
 QPalette boardPalette(QPalette palette) {
-  // What the toolkit's own style has: 1.15 for the highlight, 2.29 for the shadow.
+  // The contrasts in Qt's own style: 1.15 for the highlight, 2.29 for the shadow.
   static const QColor usualFace(239, 239, 239);
   static const double leastHighlight = contrast(Qt::white, usualFace);
   static const double leastShadow = contrast(QColor(159, 159, 159), usualFace);
@@ -61,8 +62,8 @@ QPalette boardPalette(QPalette palette) {
   const QColor face = palette.color(QPalette::Button);
   const QColor shadow =
       standingOut(palette.color(QPalette::Dark), face, leastShadow, {Qt::black, Qt::white});
-  // Nothing is much darker than a dark face. The shadow is lighter there, and the highlight more
-  // so, which keeps the light coming from the top left.
+  // Nothing is much darker than a dark face. There the shadow is lighter than the face and the
+  // highlight lighter still, so that light seems to come from the top left.
   const bool isLighter = brightness(shadow) > brightness(face);
   const QColor highlight =
       standingOut(palette.color(QPalette::Light), face,

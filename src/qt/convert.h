@@ -10,38 +10,37 @@
 
 #include "platform/control.h"
 
-/// The toolkit's equivalents of the texts, colours, fonts and pictures of controls.
+/// Conversion of the controls' texts, colours, fonts and pictures to Qt's types.
 namespace qt {
 
-/// Twips to a device-independent pixel.
+/// Twips per device-independent pixel, without zoom.
 constexpr double twipsPerPixel = 15;
 
-/// The text, which is UTF-8.
+/// Converts a text in UTF-8.
 inline QString toQString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// The colour; those of the theme are taken from the palette.
+/// Converts a colour. Colours of the theme come from the palette.
 QColor toQColor(platform::Colour colour, const QPalette& palette);
 
-/// The palette as the board is drawn with it: its active colours, whether or not a box is open over
-/// the window, and a highlight and a shadow that stand out from the button face. Themes that draw
-/// no such borders themselves have colours for them that can hardly be told from it.
+/// Returns the palette for drawing the board: the active colours, even while a box is open over the
+/// window, with a highlight and a shadow that stand out from the button face. In themes that draw
+/// no such borders these two are often almost the colour of the face.
 QPalette boardPalette(QPalette palette);
 
-/// The font at the given number of device pixels to a device-independent one. `logicalDpi` is what
-/// the toolkit takes a point to be a 72nd of; text keeps its proportion to the twips whatever that
-/// is.
+/// Converts a font, `scale` times as large. `logicalDpi` is the resolution that Qt uses for points;
+/// text keeps its proportion to twips at any resolution.
 QFont toQFont(const platform::Font& font, double scale, double logicalDpi);
 
-/// The picture at `size` by `size` pixels: sharp at whole multiples of its own size, smooth at
-/// others.
+/// Returns the picture at `size` by `size` pixels, sharp at whole multiples of its own size and
+/// smooth at others.
 QImage toQImage(const platform::Picture& picture, int size);
 
-/// The picture as the icon of a window, in whole multiples of its own size, which are sharp.
+/// Returns the picture as an icon in whole multiples of its own size, which are sharp.
 QIcon toQIcon(const platform::Picture& picture);
 
-/// Names the stand-ins of the typefaces that a machine may not have.
+/// Registers substitutes for typefaces that a machine may lack.
 void substituteFonts();
 
 }  // namespace qt

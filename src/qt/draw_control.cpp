@@ -17,7 +17,7 @@ void fill(const Canvas& canvas, const QRect& rect, platform::Colour colour) {
   canvas.painter.fillRect(rect, toQColor(colour, canvas.palette));
 }
 
-/// The width of a border line: whole pixels, never none.
+/// Returns the width of a border line: whole pixels, at least one.
 int lineWidth(const Canvas& canvas) {
   return std::max(1, static_cast<int>(canvas.scale));
 }
@@ -37,8 +37,8 @@ void drawText(const Canvas& canvas, const std::string& text, const platform::Fon
   canvas.painter.drawText(canvas.rect, Qt::AlignCenter, toQString(text));
 }
 
-/// The text colour, faded towards what is behind it. Themes fade the text of disabled buttons until
-/// it can hardly be read; two fifths of the way leaves their usual texts a contrast of 4.5 to 1.
+/// Returns the text colour, faded two fifths towards the background, which keeps a contrast of 4.5
+/// to 1 for usual texts. Themes fade the text of disabled buttons until it is hard to read.
 QColor greyed(const Look& look, const QPalette& palette) {
   const QColor text = toQColor(look.forecolor, palette);
   const QColor back = toQColor(look.backcolor, palette);
@@ -105,7 +105,7 @@ void drawControl(const DrawnControl& control, const Look& look, const Canvas& ca
   std::visit([&](const auto* it) { draw(*it, look, canvas); }, control);
 }
 
-/// A bright line between two dark ones, since one or the other stands out on every colour.
+/// The ring has bright lines between dark ones, because one of the two stands out on any colour.
 void drawRing(const Canvas& canvas) {
   constexpr platform::Colour dark = platform::palette[0];
   constexpr platform::Colour bright = platform::palette[14];

@@ -9,16 +9,16 @@
 
 namespace qt {
 
-/// The controls that a form's view draws itself; the others are widgets of the toolkit.
+/// The controls that a form's view draws itself; the others are Qt widgets.
 using DrawnControl =
     std::variant<platform::CellPane*, platform::Label*, platform::PictureBox*, platform::Frame*>;
 
-/// What all of them have in common.
+/// Returns the control as its base class.
 inline platform::Control& base(const DrawnControl& control) {
   return std::visit([](auto* it) -> platform::Control& { return *it; }, control);
 }
 
-/// What a control shows at the moment.
+/// Properties that decide how a control is drawn, at some moment.
 struct Look {
   bool visible = true;
   bool greyed = false;
@@ -28,22 +28,22 @@ struct Look {
   bool operator==(const Look&) const = default;
 };
 
-/// Where and how a control is drawn.
+/// Target of drawing one control, in pixels of the screen.
 struct Canvas {
-  QPainter& painter;  ///< in pixels of the screen
-  QRect rect;         ///< the control's, in these pixels
-  double scale = 1;   ///< pixels of the screen to a device-independent one
+  QPainter& painter;
+  QRect rect;        ///< the control's
+  double scale = 1;  ///< pixels per 15 twips
   const QPalette& palette;
   double logicalDpi = 96;
 };
 
-/// Draws the control as `look` says.
+/// Draws the control with the look.
 void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);
 
-/// Draws the ring around a control that has the focus, just inside its edges.
+/// Draws the focus ring just inside the edges of a control.
 void drawRing(const Canvas& canvas);
 
-/// What the control shows now.
+/// Returns what the control looks like now.
 Look lookOf(const DrawnControl& control);
 
 }  // namespace qt

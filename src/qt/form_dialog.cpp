@@ -4,11 +4,12 @@
 
 #include "qt/convert.h"
 #include "qt/form_view.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {
 
-/// All that can be read in a form, line by line: a screen reader would go to its button at once.
+/// Returns all texts of a form. A screen reader by itself reads only the button with the focus.
 QString textOf(const platform::Form& form) {
   QStringList lines;
   for (const platform::ControlRef& control : form.controls) {
@@ -23,10 +24,11 @@ QString textOf(const platform::Form& form) {
 
 }  // namespace
 
-FormDialog::FormDialog(platform::Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+FormDialog::FormDialog(platform::Form& form, double zoom, QWidget* parent)
+    : QDialog(parent), form_(form) {
   setWindowTitle(toQString(form.caption()));
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
-  setFixedSize((new FormView(form, this))->size());
+  setFixedSize((new FormView(form, zoom, this))->size());
   focusNextChild();
   announcer_.introduce(textOf(form));
   setWindowModality(Qt::WindowModal);
@@ -41,7 +43,7 @@ FormDialog::~FormDialog() {
 
 void FormDialog::run() {
   form_.Visible = true;
-  exec();
+  runModal(*this);
 }
 
 void FormDialog::reject() {

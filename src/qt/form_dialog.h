@@ -7,17 +7,17 @@
 
 namespace qt {
 
-/// A modal box that shows a form while the form is `Visible`.
+/// Modal box that shows a form while the form is `Visible`.
 class FormDialog final : public QDialog {
  public:
-  /// The form has to outlive the box.
-  FormDialog(platform::Form& form, QWidget* parent);
+  /// The form must outlive the box.
+  FormDialog(platform::Form& form, double zoom, QWidget* parent);
   ~FormDialog() override;
 
-  /// Shows the form, and returns when it has been closed.
+  /// Shows the form and returns after it has been closed.
   void run();
 
-  /// The user has told the box to close, by its close command or the Escape key.
+  /// Passes on the user's close command or Escape key.
   void reject() override;
 
  private:

@@ -16,9 +16,9 @@
 namespace qt {
 namespace {
 
-/// The rectangle in the pixels of a grid in which the client area begins at `origin` and `scale`
-/// of them make a device-independent one.
-QRect pixelRectAt(const platform::Place& place, double scale, QPoint origin) {
+/// Converts a place to pixels, `scale` per device-independent pixel, with the client area's top
+/// left at `origin`.
+QRect pixelRect(const platform::Place& place, double scale, QPoint origin = {}) {
   const auto edge = [&](int twips) {
     return static_cast<int>(std::lround(twips / twipsPerPixel * scale));
   };
@@ -33,9 +33,8 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
   return result;
 }
 
-/// Where a key leads in the grid: so many steps to the right, then downwards, each a single one or
-/// on to the edge.
-struct Way {
+/// How a key moves the focus in the grid: first across, then down, each by one step or to the edge.
+struct FocusMove {
   int key = 0;
   bool control = false;
   QPoint across;
@@ -47,26 +46,24 @@ constexpr QPoint toLeft(-1, 0);
 constexpr QPoint toRight(1, 0);
 constexpr QPoint upwards(0, -1);
 constexpr QPoint downwards(0, 1);
-constexpr auto ways = std::to_array<Way>({{Qt::Key_Left, false, toLeft, stay, false},
-                                          {Qt::Key_Right, false, toRight, stay, false},
-                                          {Qt::Key_Up, false, stay, upwards, false},
-                                          {Qt::Key_Down, false, stay, downwards, false},
-                                          {Qt::Key_Home, false, toLeft, stay, true},
-                                          {Qt::Key_End, false, toRight, stay, true},
-                                          {Qt::Key_Home, true, toLeft, upwards, true},
-                                          {Qt::Key_End, true, toRight, downwards, true}});
+constexpr auto focusMoves =
+    std::to_array<FocusMove>({{Qt::Key_Left, false, toLeft, stay, false},
+                              {Qt::Key_Right, false, toRight, stay, false},
+                              {Qt::Key_Up, false, stay, upwards, false},
+                              {Qt::Key_Down, false, stay, downwards, false},
+                              {Qt::Key_Home, false, toLeft, stay, true},
+                              {Qt::Key_End, false, toRight, stay, true},
+                              {Qt::Key_Home, true, toLeft, upwards, true},
+                              {Qt::Key_End, true, toRight, downwards, true}});
 
 }  // namespace
 
-QRect pixelRect(const platform::Place& place) {
-  return pixelRectAt(place, 1, {});
-}
-
-FormView::FormView(platform::Form& form, QWidget* parent) : QWidget(parent), form_(form) {
+FormView::FormView(platform::Form& form, double zoom, QWidget* parent)
+    : QWidget(parent), form_(form), zoom_(zoom) {
   setAttribute(Qt::WA_OpaquePaintEvent);
-  setFixedSize(pixelRect({0, 0, form.clientWidth, form.clientHeight}).size());
+  resize(sizeHint());
   addAll(form.controls, {});
-  connect(qApp, &QApplication::focusChanged, this, &FormView::focusMoved);
+  connect(qApp, &QApplication::focusChanged, this, &FormView::moveRing);
 }
 
 FormView::~FormView() {
@@ -74,11 +71,28 @@ FormView::~FormView() {
     base(item.control).changed = nullptr;
     base(item.control).focusWanted = nullptr;
   }
-  // The widgets that are about to go pass the focus on.
+  // Destroying the widgets moves the focus.
   disconnect(qApp, nullptr, this, nullptr);
 }
 
 // Drawing
+
+QRect FormView::rectOf(const platform::Place& place) const {
+  return pixelRect(place, zoom_);
+}
+
+QSize FormView::sizeHint() const {
+  return rectOf({0, 0, form_.clientWidth, form_.clientHeight}).size();
+}
+
+void FormView::setZoom(double zoom) {
+  zoom_ = zoom;
+  for (const Item& item : items_) {
+    if (item.widget != nullptr) item.widget->setGeometry(rectOf(item.place));
+  }
+  updateGeometry();
+  update();
+}
 
 void FormView::addAll(const platform::Controls& controls, const platform::Place& holder) {
   const auto addAtPlace = [this, &holder](auto* control) {
@@ -89,14 +103,13 @@ void FormView::addAll(const platform::Controls& controls, const platform::Place&
 }
 
 void FormView::add(DrawnControl control, const platform::Place& place) {
-  base(control).changed = [this, item = items_.size()] { markStale(item); };
+  base(control).changed = [this] { refreshSoon(); };
   Item& item = items_.emplace_back(Item{control, place, lookOf(control)});
   const platform::Accessible& accessible = base(control).accessible;
   if (accessible.role == platform::Accessible::Role::none) return;
   item.widget = new ControlWidget(control, place, *this);
-  // As Tab would, which the toolkit counts as use of the keyboard.
-  base(control).focusWanted = [widget = item.widget] { widget->setFocus(Qt::TabFocusReason); };
-  if (current_ == nullptr && accessible.inGrid) setCurrent(item.widget);
+  base(control).focusWanted = [widget = item.widget] { widget->setFocus(Qt::OtherFocusReason); };
+  if (tabStop_ == nullptr && accessible.inGrid) setTabStop(item.widget);
 }
 
 void FormView::add(platform::Frame* frame, const platform::Place& place) {
@@ -105,50 +118,43 @@ void FormView::add(platform::Frame* frame, const platform::Place& place) {
 }
 
 void FormView::add(platform::TextBox* box, const platform::Place& place) {
-  (new TextView(*box, this))->setGeometry(pixelRect(place));
+  (new TextView(*box, zoom_, this))->setGeometry(rectOf(place));
 }
 
 void FormView::add(platform::CommandButton* button, const platform::Place& place) {
   auto* view = new QPushButton(toQString(button->caption), this);
-  view->setFont(toQFont(button->font, 1, logicalDpiY()));
-  view->setGeometry(pixelRect(place));
+  view->setFont(toQFont(button->font, zoom_, logicalDpiY()));
+  view->setGeometry(rectOf(place));
   connect(view, &QPushButton::clicked, this, [button] {
     if (button->click) button->click();
   });
 }
 
-/// Changes are gathered until the handler that makes them is done or lets events be processed, so
-/// that what changes and changes back is not drawn at all.
-void FormView::markStale(std::size_t item) {
-  if (stale_.empty()) refreshSoon();
-  stale_.push_back(item);
-}
-
+/// Waits for the handler to finish or yield, so that a change that it undoes is not drawn.
 void FormView::refreshSoon() {
-  QMetaObject::invokeMethod(this, [this] { refreshStale(); }, Qt::QueuedConnection);
+  if (std::exchange(refreshScheduled_, true)) return;
+  QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
 }
 
-void FormView::refreshStale() {
-  const auto changed = std::exchange(stale_, {});
-  for (const std::size_t i : changed) {
-    Item& item = items_[i];
+void FormView::refresh() {
+  refreshScheduled_ = false;
+  for (Item& item : items_) {
     const Look before = std::exchange(item.look, lookOf(item.control));
-    if (item.look != before && (item.look.visible || before.visible)) updateItem(i);
+    if (item.look != before) updatePlace(item.place);
     if (item.widget != nullptr && item.look.visible) item.widget->show();
   }
-  // Only now, so that the focus can pass to what is shown instead.
-  for (const std::size_t i : changed) {
-    const Item& item = items_[i];
-    if (item.widget != nullptr && !item.look.visible) hide(*item.widget);
+  // Hidden last, so that the focus can move to the control shown instead.
+  for (const Item& item : items_) {
+    if (item.widget != nullptr && !item.look.visible) hideWidget(*item.widget);
   }
   if (yielding_) return;
   for (const Item& item : items_) {
-    if (item.widget != nullptr) item.widget->tellClients();
+    if (item.widget != nullptr) item.widget->notifyClients();
   }
 }
 
-/// A control that has the focus leaves it to the one that is shown in its place.
-void FormView::hide(ControlWidget& widget) {
+/// Hides the widget. The control shown in its place, if any, gets its focus.
+void FormView::hideWidget(ControlWidget& widget) {
   if (window()->focusWidget() == &widget) {
     for (const Item& item : items_) {
       if (item.widget == nullptr || item.widget == &widget || !item.look.visible) continue;
@@ -163,89 +169,67 @@ void FormView::setYielding(bool yielding) {
   if (!yielding) refreshSoon();
 }
 
-void FormView::updateItem(std::size_t item) {
-  QRegion region(pixelRect(items_[item].place));
-  for (std::size_t i = item + 1; i < items_.size(); ++i) {
-    if (items_[i].look.visible) region -= pixelRect(items_[i].place);
-  }
-  updateRegion(region);
-}
-
-void FormView::updateRegion(const QRegion& region) {
-  // At a fractional scale the toolkit may cut a pixel off the edges of what is to be repainted.
-  const int margin = devicePixelRatioF() == std::floor(devicePixelRatioF()) ? 0 : 1;
-  for (const QRect& rect : region) update(rect.adjusted(-margin, -margin, margin, margin));
+void FormView::updatePlace(const platform::Place& place) {
+  // At a fractional scale the edges that are drawn may lie a pixel further out.
+  const auto isWhole = [](double scale) { return scale == std::floor(scale); };
+  const int margin = isWhole(zoom_) && isWhole(devicePixelRatioF()) ? 0 : 1;
+  update(rectOf(place).adjusted(-margin, -margin, margin, margin));
 }
 
 void FormView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   const QTransform toPixels = painter.deviceTransform();
-  const double scale = toPixels.m11();
+  const double scale = toPixels.m11() * zoom_;
   const QPoint origin(qRound(toPixels.dx()), qRound(toPixels.dy()));
+  const QRegion region = pixelRegion(event->region(), toPixels);
   painter.setTransform(toPixels.inverted(), true);
+  painter.setClipRegion(region);
 
-  // From front to back each control gets the pixels that none before it has taken, so that every
-  // pixel is drawn once and what is wholly covered not at all.
-  struct Piece {
-    const Item* item;
-    QRect rect;
-    QRegion region;
-  };
-  std::vector<Piece> pieces;
-  const QRegion all = pixelRegion(event->region(), toPixels);
-  QRegion left = all;
-  for (std::size_t i = items_.size(); i-- > 0;) {
-    const Item& item = items_[i];
-    if (!item.look.visible) continue;
-    const QRect rect = pixelRectAt(item.place, scale, origin);
-    const QRegion region = left & rect;
-    if (region.isEmpty()) continue;
-    left -= rect;
-    pieces.push_back({&item, rect, region});
-  }
   const QPalette colours = boardPalette(palette());
-  for (const QRect& rect : left) painter.fillRect(rect, toQColor(platform::buttonFace, colours));
-  for (const Piece& piece : pieces) {
-    painter.setClipRegion(piece.region);
-    drawControl(piece.item->control, piece.item->look,
-                {painter, piece.rect, scale, colours, static_cast<double>(logicalDpiY())});
+  painter.fillRect(region.boundingRect(), toQColor(platform::buttonFace, colours));
+  for (const Item& item : items_) {
+    const QRect rect = pixelRect(item.place, scale, origin);
+    if (!item.look.visible || !region.intersects(rect)) continue;
+    drawControl(item.control, item.look,
+                {painter, rect, scale, colours, static_cast<double>(logicalDpiY())});
     ++drawnControls_;
   }
   if (ringed_ != nullptr) {
-    painter.setClipRegion(all);
-    drawRing({painter, pixelRectAt(ringed_->place(), scale, origin), scale, colours});
+    drawRing({painter, pixelRect(ringed_->place(), scale, origin), scale, colours});
   }
 }
 
 // The keys
 
-void FormView::setCurrent(ControlWidget* widget) {
-  if (current_ != nullptr) current_->setFocusPolicy(Qt::ClickFocus);
-  current_ = widget;
-  current_->setFocusPolicy(Qt::StrongFocus);
+void FormView::setTabStop(ControlWidget* widget) {
+  if (tabStop_ != nullptr) tabStop_->setFocusPolicy(Qt::ClickFocus);
+  tabStop_ = widget;
+  tabStop_->setFocusPolicy(Qt::StrongFocus);
 }
 
-void FormView::focusMoved() {
+void FormView::moveRing() {
   auto* focused = dynamic_cast<ControlWidget*>(QApplication::focusWidget());
   if (focused != nullptr && focused->parentWidget() != this) focused = nullptr;
-  if (focused != nullptr && focused->accessible().inGrid) setCurrent(focused);
-  const ControlWidget* ringed =
-      window()->testAttribute(Qt::WA_KeyboardFocusChange) ? focused : nullptr;
-  const ControlWidget* before = std::exchange(ringed_, ringed);
-  if (ringed == before) return;
-  // The ring lies over what covers its control, too.
-  for (const ControlWidget* widget : {before, ringed}) {
-    if (widget != nullptr) updateRegion(widget->geometry());
+  if (focused != nullptr && focused->accessible().inGrid) setTabStop(focused);
+  const ControlWidget* before = std::exchange(ringed_, keysUsed_ ? focused : nullptr);
+  if (ringed_ == before) return;
+  for (const ControlWidget* widget : {before, ringed_}) {
+    if (widget != nullptr) updatePlace(widget->place());
   }
 }
 
 void FormView::setKeysUsed(bool used) {
-  window()->setAttribute(Qt::WA_KeyboardFocusChange, used);
-  focusMoved();
+  keysUsed_ = used;
+  moveRing();
+}
+
+bool FormView::focusNextPrevChild(bool next) {
+  setKeysUsed(true);
+  return QWidget::focusNextPrevChild(next);
 }
 
 ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) const {
-  // By half a control, so that none is passed over.
+  // Steps of half a control's width cannot skip a neighbour.
   const QPoint step = direction * (of.width() / 2);
   if (step.isNull()) return nullptr;
   for (QPoint at = of.geometry().center() + step; rect().contains(at); at += step) {
@@ -256,20 +240,20 @@ ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) co
 }
 
 bool FormView::moveFocus(ControlWidget& from, int key, bool control) {
-  const auto* way = std::ranges::find_if(
-      ways, [&](const Way& it) { return it.key == key && it.control == control; });
-  if (way == ways.end()) return false;
+  const auto* found = std::ranges::find_if(
+      focusMoves, [&](const FocusMove& it) { return it.key == key && it.control == control; });
+  if (found == focusMoves.end()) return false;
   setKeysUsed(true);
   ControlWidget* to = &from;
   if (from.accessible().inGrid) {
-    for (const QPoint direction : {way->across, way->down}) {
+    for (const QPoint direction : {found->across, found->down}) {
       for (ControlWidget* next = neighbour(*to, direction); next != nullptr;
-           next = way->toEdge ? neighbour(*to, direction) : nullptr) {
+           next = found->toEdge ? neighbour(*to, direction) : nullptr) {
         to = next;
       }
     }
-  } else if (key == Qt::Key_Up && current_ != nullptr) {
-    to = current_;
+  } else if (key == Qt::Key_Up && tabStop_ != nullptr) {
+    to = tabStop_;
   }
   if (to != &from) {
     to->setFocus(Qt::TabFocusReason);

@@ -4,50 +4,57 @@
 #include <vector>
 
 #include "platform/form.h"
+#include "qt/convert.h"
 #include "qt/draw_control.h"
 
 namespace qt {
 
 class ControlWidget;
 
-/// The rectangle of a place in the client area, in device-independent pixels.
-QRect pixelRect(const platform::Place& place);
-
-/// The client area of a form. It has two jobs, to draw the form's controls and to say where the
-/// keys lead; the toolkit does the rest.
+/// Widget that shows the client area of a form. It draws the form's controls and decides where the
+/// keys move the focus; Qt does the rest.
 ///
-/// The controls share one widget to be drawn in, because a widget begins and ends at whole
-/// device-independent pixels. At a scale factor such as 1.25 those do not fall on the screen's
-/// pixels, and cells that overlap or touch would show gaps and doubled borders; here every edge is
-/// rounded to a pixel of the screen once, alike for both cells that meet at it. What the mouse, the
-/// keys and assistive technology meet are widgets that lie at the controls' places and draw
-/// nothing.
+/// All controls are drawn by this one widget, because a widget begins and ends at whole
+/// device-independent pixels. At a scale factor such as 1.25 these are not whole pixels of the
+/// screen, and cells that overlap or touch would show gaps and doubled borders. Here every edge is
+/// rounded to the screen's pixels once, in the same way for both cells that share it. Mouse,
+/// keyboard and accessibility go through one invisible widget per control, laid over its drawing.
 class FormView final : public QWidget {
  public:
-  /// The form has to outlive the view.
-  FormView(platform::Form& form, QWidget* parent);
+  /// The form must outlive the view.
+  FormView(platform::Form& form, double zoom, QWidget* parent);
   ~FormView() override;
 
-  /// How often controls have been drawn, wholly or in part. Tests and benchmarks read it, to see
-  /// when a change has reached the screen and that nothing else was drawn.
+  /// Returns the size of the whole client area.
+  QSize sizeHint() const override;
+
+  /// Returns how many controls have been drawn so far, wholly or in part. Tests and benchmarks use
+  /// it to see when a change has reached the screen and how much else was drawn.
   long drawnControls() const { return drawnControls_; }
 
-  /// Whether a handler is yielding. The screen then shows the board as it stands, but clients of
-  /// assistive technology are told of it only when the handler is done with it.
+  /// Sets whether a handler is yielding. The screen then shows the board as it is, but
+  /// accessibility clients are notified only when the handler has finished.
   void setYielding(bool yielding);
 
+  /// Sets the zoom, in device-independent pixels per 15 twips. Text boxes and command buttons keep
+  /// the zoom they were created with.
+  void setZoom(double zoom);
+
   // For the widgets of the controls:
-  /// Moves the focus where a key leads within the grid, or back to it, and tells the form where
-  /// that is beyond the grid's edge; false if the key leads nowhere. `control` tells whether that
-  /// key is down.
+  /// Returns how many twips make a device-independent pixel.
+  double twipsPerPixel() const { return qt::twipsPerPixel / zoom_; }
+  /// Returns the rectangle of a place in the client area, in device-independent pixels.
+  QRect rectOf(const platform::Place& place) const;
+  /// Moves the focus where an arrow key, Home or End leads; `control` says whether Ctrl is down.
+  /// Notifies the form if that is nowhere. Returns false for any other key.
   bool moveFocus(ControlWidget& from, int key, bool control);
-  /// Whether the user works with the keys, which puts a ring around the control with the focus, or
-  /// with the mouse, which takes it away.
+  /// Records whether the player works with the keyboard, and shows or hides the focus ring.
   void setKeysUsed(bool used);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   // Drawing.
@@ -55,44 +62,42 @@ class FormView final : public QWidget {
     DrawnControl control;
     platform::Place place;            ///< in the client area, twips
     Look look;                        ///< as the screen shows it, or will after the next repaint
-    ControlWidget* widget = nullptr;  ///< none for what can be neither read nor pressed
+    ControlWidget* widget = nullptr;  ///< null if the control has no accessible role
   };
 
-  /// Adds the controls, whose places are measured from the top left of their holder.
+  /// Adds the controls, whose places are relative to `holder`.
   void addAll(const platform::Controls& controls, const platform::Place& holder);
-  // Each adds a control at its place in the client area.
   void add(DrawnControl control, const platform::Place& place);
   void add(platform::Frame* frame, const platform::Place& place);
   void add(platform::TextBox* box, const platform::Place& place);
   void add(platform::CommandButton* button, const platform::Place& place);
-  /// Notes that the item may have changed, and has it looked at soon.
-  void markStale(std::size_t item);
-  /// Has `refreshStale` run once the handler that is running is done or yields.
+  /// Schedules `refresh` for when the running handler finishes or yields.
   void refreshSoon();
-  /// Draws, shows and hides what has changed, and tells clients of it.
-  void refreshStale();
-  void hide(ControlWidget& widget);
-  /// Has the item drawn again, where nothing in front of it covers it.
-  void updateItem(std::size_t item);
-  /// Has the region drawn again, in device-independent pixels.
-  void updateRegion(const QRegion& region);
+  /// Repaints, shows and hides what has changed, and notifies accessibility clients.
+  void refresh();
+  void hideWidget(ControlWidget& widget);
+  void updatePlace(const platform::Place& place);
 
   platform::Form& form_;
-  std::vector<Item> items_;         ///< from back to front
-  std::vector<std::size_t> stale_;  ///< those that may have changed since the last refresh
+  double zoom_;
+  std::vector<Item> items_;  ///< from back to front
+  bool refreshScheduled_ = false;
   bool yielding_ = false;
   long drawnControls_ = 0;
 
   // The keys.
-  /// Makes it the control of the grid that Tab reaches.
-  void setCurrent(ControlWidget* widget);
-  /// Moves the ring to where the focus is now, if the user works with the keys.
-  void focusMoved();
-  /// The next control of the grid in the direction, a step of one; none beyond the edge.
+  void setTabStop(ControlWidget* widget);
+  /// Moves the focus ring to where the focus is now, if the player works with the keyboard.
+  void moveRing();
+  /// Returns the next control of the grid in the direction, a step of one; null beyond the edge.
   ControlWidget* neighbour(const ControlWidget& of, QPoint direction) const;
 
-  ControlWidget* current_ = nullptr;       ///< the one of the grid that Tab reaches
-  const ControlWidget* ringed_ = nullptr;  ///< the one with the ring of the focus, if any
+  ControlWidget* tabStop_ = nullptr;       ///< the control of the grid that Tab reaches
+  const ControlWidget* ringed_ = nullptr;  ///< the control with the focus ring, if any
+  /// Whether the player works with the keyboard: set by Tab, by the menu keys and by every key that
+  /// does something on the board, cleared by the mouse. Qt has such an attribute too, but 6.11
+  /// clears it whenever the focus moves by anything but Tab.
+  bool keysUsed_ = false;
 };
 
 }  // namespace qt

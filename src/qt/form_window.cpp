@@ -2,10 +2,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 
@@ -15,29 +16,26 @@
 
 namespace qt {
 
-FormWindow::FormWindow(platform::Form& form)
+FormWindow::FormWindow(platform::Form& form, const Zoom& zoom)
     : QMainWindow(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                                Qt::WindowCloseButtonHint),
       form_(form),
-      view_(new FormView(form, this)) {
+      zoom_(zoom),
+      view_(new FormView(form, zoom.factor(), this)) {
   if (form.icon != nullptr) setWindowIcon(toQIcon(*form.icon));
   setWindowTitle(toQString(form.caption()));
   form.changed = [this] { setTitle(*this, toQString(form_.caption())); };
   for (const platform::MenuItem* menu : form.menus) {
     addMenu(*menuBar()->addMenu(toQString(menu->caption())), *menu);
   }
-  // In the middle, where a desktop makes the window larger than it asks to be.
-  setCentralWidget(new QWidget);
-  auto* middle = new QHBoxLayout(centralWidget());
-  middle->setContentsMargins({});
-  middle->addWidget(view_);
+  setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  // Stated, so that the pointer of a box that has closed under it cannot stay.
+  // Otherwise the cursor of a box that closes under the mouse would stay.
   setCursor(Qt::ArrowCursor);
-  // The toolkit's own title bars maximise windows of a fixed size too, whatever flags they have. As
-  // soon as one is about to, the size is let go, since some desktops end a program that does not
-  // take the size they state.
+  // Qt's own title bars can maximise a window of fixed size, whatever its flags. The size is
+  // released as soon as that begins, because some desktops terminate a program that does not accept
+  // the size they set.
   create();
   connect(windowHandle(), &QWindow::windowStateChanged, this, [this](Qt::WindowState state) {
     if (state != Qt::WindowMaximized) return;
@@ -48,11 +46,13 @@ FormWindow::FormWindow(platform::Form& form)
 
 FormWindow::~FormWindow() {
   form_.changed = nullptr;
-  for (platform::MenuItem* item : items_) item->changed = nullptr;
+  for (const platform::MenuItem* menu : form_.menus) {
+    for (platform::MenuItem* item : menu->items) item->changed = nullptr;
+  }
 }
 
 void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
-  // Out of the menu the way leads back to the form, not to the menu bar.
+  // A closed menu returns the focus to the form, not to the menu bar.
   connect(
       &menu, &QMenu::aboutToHide, this,
       [this] {
@@ -73,9 +73,8 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
     };
     show();
     entry->changed = show;
-    items_.push_back(entry);
-    // Queued, so that a client of assistive technology that chooses the item is not kept waiting
-    // by a box that it brings up.
+    // Queued, so that an accessibility client that chooses the item does not wait for the box that
+    // the item opens.
     connect(
         action, &QAction::triggered, this,
         [this, entry] {
@@ -99,8 +98,8 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-/// Waits for the Alt key to come up again with nothing in between. The toolkit does so too, but
-/// only goes to the menu bar, and misses the key while a screen reader listens to the keyboard.
+/// Waits for Alt to be released with no other key or button in between. Qt does so too, but only
+/// moves to the menu bar, and misses the key while a screen reader listens to the keyboard.
 bool FormWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
   const auto isAlt = [&] { return dynamic_cast<QKeyEvent*>(event)->key() == Qt::Key_Alt; };
   const QEvent::Type type = event->type();
@@ -124,13 +123,35 @@ void FormWindow::openMenu() {
   if (item != items.end()) first->menu()->setActiveAction(*item);
 }
 
+bool FormWindow::fitsAt(double zoom) const {
+  const QSize frame = frameGeometry().size() - size();
+  const QSize needed = sizeHint() * (zoom / zoom_.factor()) + frame;
+  return screen()->availableSize().expandedTo(needed) == screen()->availableSize();
+}
+
+void FormWindow::moveOntoScreen() {
+  layout()->activate();  // gives the window its new size
+  const QRect available = screen()->availableGeometry();
+  QRect frame = frameGeometry();
+  frame.moveRight(std::min(frame.right(), available.right()));
+  frame.moveBottom(std::min(frame.bottom(), available.bottom()));
+  frame.moveTopLeft(
+      {std::max(frame.left(), available.left()), std::max(frame.top(), available.top())});
+  if (frame.topLeft() != pos()) move(frame.topLeft());
+}
+
 void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) {
+    view_->setZoom(zoom_.factor());
+    // Queued, so that the menu bar already has its new font.
+    QMetaObject::invokeMethod(this, [this] { moveOntoScreen(); }, Qt::QueuedConnection);
+  }
   if (event->type() != QEvent::WindowStateChange) return;
   if (!isMaximized() && !isFullScreen()) layout()->setSizeConstraint(QLayout::SetFixedSize);
-  if (!isMaximized() || !restored_.hasExpired()) return;
-  restored_.setRemainingTime(1000);
-  // Once the new size has been taken, as a desktop may insist on it.
+  if (!isMaximized() || !nextRestore_.hasExpired()) return;
+  nextRestore_.setRemainingTime(1000);  // milliseconds
+  // Queued, so that the maximised size is accepted first, in case the desktop insists on it.
   QMetaObject::invokeMethod(
       this, [this] { windowHandle()->setWindowStates(Qt::WindowNoState); }, Qt::QueuedConnection);
 }

@@ -2,10 +2,10 @@
 
 #include <QDeadlineTimer>
 #include <QMainWindow>
-#include <vector>
 
 #include "platform/form.h"
 #include "qt/announcer.h"
+#include "qt/zoom.h"
 
 namespace qt {
 
@@ -14,13 +14,16 @@ class FormView;
 /// A window that shows a form: its title, icon, menu bar and client area.
 class FormWindow final : public QMainWindow {
  public:
-  /// The form has to outlive the window.
-  explicit FormWindow(platform::Form& form);
+  /// The form must outlive the window.
+  FormWindow(platform::Form& form, const Zoom& zoom);
   ~FormWindow() override;
 
-  /// The client area.
+  /// Returns whether the screen has room for the window at the zoom.
+  bool fitsAt(double zoom) const;
+
+  /// Returns the client area.
   FormView& view() const { return *view_; }
-  /// Has sentences spoken in this window.
+  /// Returns the announcer of this window.
   Announcer& announcer() { return announcer_; }
 
  protected:
@@ -30,14 +33,17 @@ class FormWindow final : public QMainWindow {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Opens the first menu at its first enabled item, as by the keyboard.
+  /// Opens the first menu with its first enabled item selected.
   void openMenu();
   void addMenu(QMenu& menu, const platform::MenuItem& item);
 
+  void moveOntoScreen();
+
   platform::Form& form_;
-  std::vector<platform::MenuItem*> items_;  ///< those that this window shows
+  const Zoom& zoom_;
   FormView* view_;
-  QDeadlineTimer restored_;  ///< until when the desktop is let have its way
+  /// A window maximised again before this expires is not restored: the desktop insists.
+  QDeadlineTimer nextRestore_;
   Announcer announcer_{*this};
 };
 

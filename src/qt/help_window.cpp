@@ -5,6 +5,8 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QProxyStyle>
+#include <QScreen>
+#include <QScrollBar>
 #include <QStringDecoder>
 #include <QStyleHintReturn>
 #include <QTextBlock>
@@ -20,26 +22,21 @@ namespace {
 constexpr const char* howToRead =
     ". The arrow keys go through the text, Tab to its links, Escape closes it";
 
-/// Why the file cannot be shown, in one sentence; empty if it can.
+/// Returns what keeps the file from being shown, as the end of a sentence; empty if nothing does.
 QString faultOf(const QString& path) {
-  const QString name = QFileInfo(path).fileName();
   QFile file(path);
-  if (!file.exists()) return QString("The help file \"%1\" cannot be found.").arg(name);
-  if (!file.open(QIODevice::ReadOnly)) {
-    return QString("The help file \"%1\" cannot be read.").arg(name);
-  }
+  if (!file.exists()) return "cannot be found";
+  if (!file.open(QIODevice::ReadOnly)) return "cannot be read";
   const QByteArray content = file.readAll();
-  if (content.trimmed().isEmpty()) return QString("The help file \"%1\" is empty.").arg(name);
+  if (content.trimmed().isEmpty()) return "is empty";
   QStringDecoder decoder(QStringDecoder::Utf8);
   const QString text = decoder(content);
-  if (decoder.hasError() || text.contains(QChar::Null)) {
-    return QString("The help file \"%1\" is damaged: it is not a text.").arg(name);
-  }
+  if (decoder.hasError() || text.contains(QChar::Null)) return "is damaged: it is not a text";
   return {};
 }
 
-/// Marks the link that the keys have come to as selected text is marked: the toolkit's own box
-/// around it has a dotted line of one pixel.
+/// Style that marks the link with the focus like selected text, because Qt's own mark is a dotted
+/// line one pixel wide.
 class LinkStyle final : public QProxyStyle {
  public:
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -56,7 +53,7 @@ class LinkStyle final : public QProxyStyle {
   }
 };
 
-/// Where the text has the anchor of this name; 0 if it has none.
+/// Returns the position of the anchor in the text; 0 if it has none.
 int positionOf(const QString& anchor, const QTextDocument& text) {
   for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
     for (auto it = block.begin(); !it.atEnd(); ++it) {
@@ -79,14 +76,14 @@ HelpText::HelpText(QWidget* parent, Announcer& announcer)
 }
 
 void HelpText::keyPressEvent(QKeyEvent* event) {
-  // From the first key on there is a caret, which screen readers follow; the mouse needs none.
+  // The first key turns on a caret, which screen readers follow; the mouse needs none.
   setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard);
   const QUrl before = source();
   const int depth = backwardHistoryCount();
   QTextBrowser::keyPressEvent(event);
   if (source() == before) return;
   if (backwardHistoryCount() < depth) {
-    announceLink();  // the one that was followed: the toolkit goes back to it
+    announceLink();  // Qt selects the link that was followed before
   } else {
     moveCaretTo(source().fragment());
   }
@@ -109,10 +106,10 @@ void HelpText::moveCaretTo(const QString& anchor) {
   announcer_.announce(caret.block().text().simplified());
 }
 
-HelpWindow::HelpWindow() : text_(new HelpText(this, announcer_)) {
+HelpWindow::HelpWindow(double zoom) : text_(new HelpText(this, announcer_)) {
   setWindowTitle(QCoreApplication::applicationName() + " Help");
   setCentralWidget(text_);
-  resize(560, 620);
+  resize((QSize(560, 620) * zoom).boundedTo(screen()->availableSize()));
   QToolBar* bar = addToolBar("Navigation");
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -131,17 +128,17 @@ bool HelpWindow::showContents(const QString& path) {
   const QString fault = faultOf(path);
   if (fault.isEmpty()) {
     text_->setSource(QUrl::fromLocalFile(path), QTextDocument::HtmlResource);
-    text_->reload();  // for it may have changed
-    text_->scrollToAnchor("contents");
+    text_->reload();  // the file may have changed
+    text_->verticalScrollBar()->setValue(0);
   } else {
-    text_->setPlainText(fault);
+    text_->setPlainText(QString("The help file \"%1\" %2.").arg(QFileInfo(path).fileName(), fault));
   }
   text_->clearHistory();
-  text_->setFocus();  // which may have been left on a button
-  letKeyBeTakenIn();
-  // It waits until the window has come up.
-  announcer_.announce(fault.isEmpty() ? text_->document()->firstBlock().text().trimmed() + howToRead
-                                      : fault);
+  text_->setFocus();  // a tool button may have it
+  waitForScreenReader();
+  // Spoken once the window is shown.
+  announcer_.announce(text_->document()->firstBlock().text().trimmed() +
+                      (fault.isEmpty() ? howToRead : ""));
   showNormal();
   raise();
   activateWindow();
@@ -150,7 +147,7 @@ bool HelpWindow::showContents(const QString& path) {
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() != Qt::Key_Escape) return;
-  letKeyBeTakenIn();
+  waitForScreenReader();
   close();
 }
 
@@ -161,7 +158,7 @@ bool QtHelpViewer::WinHelpA(const platform::Form& owner, std::string_view file,
       folders_, [&](const QString& candidate) { return QDir(candidate).exists(name); });
   const QString path = QDir(folder == folders_.end() ? folders_.first() : *folder).filePath(name);
   if (!window_) {
-    window_ = std::make_unique<HelpWindow>();
+    window_ = std::make_unique<HelpWindow>(zoom_.factor());
     if (owner.icon != nullptr) window_->setWindowIcon(toQIcon(*owner.icon));
   }
   return window_->showContents(path);

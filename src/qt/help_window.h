@@ -9,14 +9,15 @@
 
 #include "platform/help_viewer.h"
 #include "qt/announcer.h"
+#include "qt/zoom.h"
 
 namespace qt {
 
-/// The text of a help file, read with the mouse or with the keys: arrows and pages, and Tab from
+/// Text of a help file with keyboard navigation: the arrow and page keys scroll, Tab moves from
 /// link to link.
 class HelpText final : public QTextBrowser {
  public:
-  /// `announcer` has spoken what the keys come to.
+  /// `announcer` speaks the links and headings that the keys reach.
   HelpText(QWidget* parent, Announcer& announcer);
 
  protected:
@@ -24,20 +25,21 @@ class HelpText final : public QTextBrowser {
   bool focusNextPrevChild(bool next) override;
 
  private:
-  /// Moves the caret to where a link has led, and has it read out.
+  /// Moves the caret to where a link has led and announces the line there.
   void moveCaretTo(const QString& anchor);
   void announceLink();
 
   Announcer& announcer_;
 };
 
-/// Shows a help file: HTML, as far as the toolkit's text browser knows it.
+/// Window that shows a help file in the HTML subset of QTextBrowser.
 class HelpWindow final : public QMainWindow {
  public:
-  HelpWindow();
+  /// Opens as large as the zoom asks for and the screen allows.
+  explicit HelpWindow(double zoom);
 
-  /// Shows the file at its contents in front of the other windows, or, in its place, a sentence
-  /// that says why it cannot be shown. Whether it is shown.
+  /// Shows the file at its contents in front of the other windows, or instead a sentence that says
+  /// why it cannot be shown. Returns whether the file is shown.
   bool showContents(const QString& path);
 
  protected:
@@ -46,19 +48,20 @@ class HelpWindow final : public QMainWindow {
  private:
   Announcer announcer_{*this};
   HelpText* text_;
-  QString path_;  ///< of the file last asked for
+  QString path_;  ///< of the last file
 };
 
-/// Finds help files in the given folders and shows them in one window, made when first needed.
+/// Viewer that finds help files in the folders and shows them in one window, created on first use.
 class QtHelpViewer final : public platform::HelpViewer {
  public:
-  explicit QtHelpViewer(QStringList folders) : folders_(std::move(folders)) {}
+  QtHelpViewer(QStringList folders, const Zoom& zoom) : folders_(std::move(folders)), zoom_(zoom) {}
 
   bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
                 unsigned data) override;
 
  private:
   QStringList folders_;
+  const Zoom& zoom_;
   std::unique_ptr<HelpWindow> window_;
 };
 

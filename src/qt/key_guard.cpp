@@ -11,25 +11,27 @@
 namespace qt {
 namespace {
 
-constexpr int boxPatience = 500;  // milliseconds
-/// Within which a key that is held down begins to repeat, in milliseconds.
-constexpr int longestDelay = 1000;
+constexpr int boxDelay = 500;  // milliseconds
+/// The longest time until a held key begins to repeat, in milliseconds.
+constexpr int longestRepeatDelay = 1000;
 
-/// The keys that go on while they are held down.
-constexpr std::array leadingKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
-                                 Qt::Key_Down, Qt::Key_Tab,   Qt::Key_Backtab};
+/// The keys that keep moving the focus while they are held.
+constexpr std::array movingKeys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up,
+                                Qt::Key_Down, Qt::Key_Tab,   Qt::Key_Backtab};
 
-/// What stays the same from a key's press to its release: with Shift let go in between, its name
-/// does not.
+/// Returns what identifies a key from its press to its release. Its `key()` changes if Shift is
+/// released in between.
 quint32 idOf(const QKeyEvent& event) {
   return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<quint32>(event.key());
 }
 
-bool pressesSomething(int key) {
+/// Returns whether the key acts rather than moves: on a control, or as a shortcut with Ctrl.
+bool pressesSomething(const QKeyEvent& event) {
   const QWidget* focused = QApplication::focusWidget();
   return (dynamic_cast<const ControlWidget*>(focused) != nullptr ||
-          dynamic_cast<const QAbstractButton*>(focused) != nullptr) &&
-         std::ranges::find(leadingKeys, key) == leadingKeys.end();
+          dynamic_cast<const QAbstractButton*>(focused) != nullptr ||
+          event.modifiers().testFlag(Qt::ControlModifier)) &&
+         std::ranges::find(movingKeys, event.key()) == movingKeys.end();
 }
 
 }  // namespace
@@ -40,55 +42,56 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   const bool isBox = window->modality() != Qt::NonModal;
   if (event->type() == QEvent::Show && isBox) {
     boxWaits_ = true;
-    boxShown_.start();
+    boxShownAt_ = clock();
   }
   auto* key = dynamic_cast<QKeyEvent*>(event);
   if (key == nullptr) return false;
-  // While a screen reader listens to the keyboard, another filter may be ahead of this one, and
-  // pass on nothing but copies, which do not tell their time.
+  // While a screen reader listens to the keyboard, Qt's accessibility filter may be ahead of this
+  // one and pass on only copies, which carry no time stamp.
   if (!key->spontaneous()) {
-    const auto goAhead = [this] { qApp->installEventFilter(this); };
-    QMetaObject::invokeMethod(this, goAhead, Qt::QueuedConnection);
+    const auto moveToFront = [this] { qApp->installEventFilter(this); };
+    QMetaObject::invokeMethod(this, moveToFront, Qt::QueuedConnection);
   }
   const bool tooEarly = isBox && isTooEarly(*key);
   const bool repeat = isRepeat(*key);
-  keep(*key);
+  record(*key);
   if (event->type() == QEvent::ShortcutOverride && tooEarly) {
-    event->accept();  // it is no shortcut either
+    event->accept();  // keeps it from acting as a shortcut
     return true;
   }
   if (event->type() != QEvent::KeyPress) return false;
   if (tooEarly) {
-    if (keptFromBox) keptFromBox();
+    if (keyKeptFromBox) keyKeptFromBox();
     return true;
   }
   if (isBox && !repeat) boxWaits_ = false;
-  return repeat && pressesSomething(key->key());
+  return repeat && pressesSomething(*key);
 }
 
-/// Where the next press of a key that is held down has not arrived yet, the X server's repeats are
-/// not marked as such; but they come at the very time of the release that goes with them.
+/// Qt cannot mark an X server's repeat before the next press of the key has arrived, but the repeat
+/// has the same time stamp as the release sent with it.
 bool KeyGuard::isRepeat(const QKeyEvent& event) const {
   return event.isAutoRepeat() || (event.type() == QEvent::KeyPress && idOf(event) == released_ &&
                                   event.timestamp() == releasedAt_);
 }
 
 bool KeyGuard::isTooEarly(const QKeyEvent& event) const {
-  const auto isOtherDown = [&](const auto& held) {
-    return held.first != idOf(event) && !held.second.hasExpired();
+  const qint64 now = clock();
+  const auto isOtherHeld = [&](const auto& held) {
+    return held.first != idOf(event) && held.second > now;
   };
   return boxWaits_ &&
-         (boxShown_.elapsed() < boxPatience || isRepeat(event) ||
-          std::any_of(held_.constKeyValueBegin(), held_.constKeyValueEnd(), isOtherDown));
+         (now - boxShownAt_ < boxDelay || isRepeat(event) ||
+          std::any_of(heldUntil_.constKeyValueBegin(), heldUntil_.constKeyValueEnd(), isOtherHeld));
 }
 
-/// A key may come up unnoticed, in another program or while the focus goes to another window. One
-/// that is down repeats, so it counts as let go when nothing has been heard of it for a second.
-void KeyGuard::keep(const QKeyEvent& event) {
+/// A key may be released unnoticed, in another program or while the focus moves to another window.
+/// As a held key repeats, one that sends nothing for a second counts as released.
+void KeyGuard::record(const QKeyEvent& event) {
   if (event.type() == QEvent::KeyPress) {
-    held_[idOf(event)] = QDeadlineTimer(longestDelay);
+    heldUntil_[idOf(event)] = clock() + longestRepeatDelay;
   } else if (event.type() == QEvent::KeyRelease && !event.isAutoRepeat()) {
-    held_.remove(idOf(event));
+    heldUntil_.remove(idOf(event));
     if (event.timestamp() == 0) return;
     released_ = idOf(event);
     releasedAt_ = event.timestamp();

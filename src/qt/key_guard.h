@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDeadlineTimer>
-#include <QElapsedTimer>
 #include <QHash>
 #include <QKeyEvent>
 #include <QObject>
@@ -9,31 +8,34 @@
 
 namespace qt {
 
-/// Keeps away the keys that nobody means, as the event filter of an application:
+/// Application-wide event filter that drops key events the player did not intend:
 ///
-/// - A key that is held down presses what has the focus once; its repeats do nothing.
-/// - A box that has just come up takes no key for half a second, nor before all keys have been let
-///   go: they were meant for what was there before, and it may not have been met yet.
+/// - A held key presses what has the focus once; its repeats do nothing.
+/// - A box that has just opened ignores keys for half a second, and until every key held since
+///   before is released: the player meant them for what was there before and may not know of the
+///   box yet.
 class KeyGuard final : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
-  /// A key has been kept away from a box.
-  std::function<void()> keptFromBox;
+  /// Called when a key has been kept from a box.
+  std::function<void()> keyKeptFromBox;
+  /// Returns the time in milliseconds since any fixed moment. Tests set a clock of their own.
+  std::function<qint64()> clock = [] { return QDeadlineTimer::current().deadline(); };
 
  private:
-  /// Whether a key that is held down has been pressed again by the keyboard itself.
+  /// Returns whether the key press is a repeat that the keyboard sends while the key is held.
   bool isRepeat(const QKeyEvent& event) const;
-  /// Whether the key may have been meant for what was there before the box.
+  /// Returns whether the player may have meant the key for what was there before the box.
   bool isTooEarly(const QKeyEvent& event) const;
-  /// Keeps in mind which keys are down, and which came up last.
-  void keep(const QKeyEvent& event);
+  /// Records which keys are down and which was released last.
+  void record(const QKeyEvent& event);
 
-  QHash<quint32, QDeadlineTimer> held_;  ///< till when a key counts as down
-  quint32 released_ = 0;  ///< the key that came up last, and when, in ms of the events' clock
-  quint64 releasedAt_ = 0;
-  bool boxWaits_ = false;   ///< no key has been meant for the last box yet
-  QElapsedTimer boxShown_;  ///< since it came up
+  QHash<quint32, qint64> heldUntil_;  ///< when each key stops counting as held, by `clock`
+  quint32 released_ = 0;              ///< the key released last
+  quint64 releasedAt_ = 0;            ///< when, in milliseconds of the events' clock
+  bool boxWaits_ = false;             ///< the last box has not accepted a key yet
+  qint64 boxShownAt_ = 0;
 };
 
 }  // namespace qt

@@ -1,13 +1,10 @@
 #include "qt/qt_desktop.h"
 
 #include <QFontMetrics>
-#include <QGridLayout>
-#include <QLabel>
-#include <QMessageBox>
 #include <QSettings>
-#include <QTimer>
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdlib>
 #include <iostream>
 #include <utility>
@@ -16,21 +13,17 @@
 #include "qt/form_dialog.h"
 #include "qt/form_view.h"
 #include "qt/form_window.h"
+#include "qt/message_box.h"
 #include "qt/modal.h"
 
 namespace qt {
 namespace {
 
-constexpr int pauseAfterKeys = 500;  // milliseconds
-/// Device-independent pixels. The toolkit's own title bars centre the title in a box, and keep room
-/// for three buttons at the right.
-constexpr int roomForTitle = 206;
-
 constexpr const char* noDisplay =
     "cannot open a window, because there is no display to open it on.";
 
-/// What keeps the toolkit from opening windows, by what it says of it, in the order of what
-/// helps most.
+/// Messages of Qt when it cannot open windows, and what to tell the user instead; the most helpful
+/// first.
 constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
     {"Could not find the Qt platform plugin \"wayland\"",
      "cannot open a window in this Wayland session, because the package qt6-wayland is not "
@@ -39,20 +32,21 @@ constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
     {"Failed to create wl_display", noDisplay},
 });
 
-[[noreturn]] void endFor(const char* obstacle) {
-  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": " << obstacle << "\n";
+[[noreturn]] void exitWith(const char* message) {
+  std::cerr << qPrintable(QCoreApplication::applicationName()) << ": " << message << "\n";
   std::_Exit(EXIT_FAILURE);
 }
 
-/// What the toolkit has said during its start.
+/// Returns the messages of Qt while it starts.
 QString& heldMessages() {
   static QString messages;
   return messages;
 }
 
-/// The toolkit aborts where it can open no window, which would leave a core dump and paragraphs of
-/// plug-in names instead of the one fact that matters. What is not known here is told in its words,
-/// but for warnings of no category, such as that of the locale, which are not why.
+/// Message handler that collects Qt's messages and, when Qt gives up, ends the program with one
+/// helpful message. Qt itself would abort with a core dump and paragraphs of plug-in names. An
+/// unknown problem is reported in Qt's words, except for warnings without a category, such as the
+/// one about the locale, which are never the reason.
 void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   static QString reasons;
   heldMessages() += qFormatLogMessage(type, context, message) + '\n';
@@ -62,7 +56,7 @@ void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QSt
   if (type != QtFatalMsg) return;
   const auto* const found = std::ranges::find_if(
       obstacles, [](const auto& obstacle) { return heldMessages().contains(obstacle.first); });
-  endFor(found == obstacles.end() ? qPrintable(reasons) : found->second);
+  exitWith(found == obstacles.end() ? qPrintable(reasons) : found->second);
 }
 
 }  // namespace
@@ -72,7 +66,7 @@ std::unique_ptr<QApplication> QtDesktop::makeApplication() {
   const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
   auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
   if (!QFontMetrics(QApplication::font()).inFont('0')) {
-    endFor(
+    exitWith(
         "cannot show any text, because no font is installed; install the package "
         "fonts-liberation.");
   }
@@ -85,60 +79,29 @@ QtDesktop::QtDesktop(char* programPath, Program program)
     : program_(std::move(program)),
       arguments_{programPath, nullptr},
       application_(makeApplication()),
+      zoom_([this](double factor) { return main_ == nullptr || main_->fitsAt(factor); },
+            [this](const QString& sentence) { announce(sentence.toStdString()); }),
       printer_(
           toQString(program_.documentName),
           [this](std::string_view text, Buttons buttons) { return messageBox(text, buttons); }),
       helpViewer_(
           {QApplication::applicationDirPath(),
-           QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)}) {
+           QApplication::applicationDirPath() + "/../share/" + toQString(program_.packageName)},
+          zoom_) {
   QGuiApplication::setDesktopFileName(toQString(program_.packageName));
-  // The toolkit's file dialog would keep a file of settings in the user's home.
+  // Qt's file dialog would write a settings file into the user's home.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
   substituteFonts();
+  application_->installEventFilter(&zoom_);
   application_->installEventFilter(&keyGuard_);
 }
 
 QtDesktop::~QtDesktop() = default;
 
-platform::Desktop::Answer QtDesktop::showMessageBox(std::string_view text, Buttons buttons) {
-  QMessageBox box(main_.get());
-  box.setWindowTitle(toQString(program_.messageTitle));
-  box.setText(toQString(text));
-  // Room for the title, which is wider than the shortest texts.
-  if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
-    grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
-  }
-  // Modal to the main window alone: help stays readable beside it. The toolkit makes the box a
-  // sheet with that, which has no title bar where the program draws its own.
-  box.setWindowModality(Qt::WindowModal);
-  box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                     Qt::WindowCloseButtonHint);
-  box.setStandardButtons(buttons == Buttons::ok ? QMessageBox::Ok
-                                                : QMessageBox::Yes | QMessageBox::No);
-  // Else it would be the first, which is No on some desktops.
-  box.setDefaultButton(buttons == Buttons::ok ? QMessageBox::Ok : QMessageBox::Yes);
-  // A sentence that waits is read out with the text: by itself it would come after the box, and cut
-  // it short.
-  QString words = box.text();
-  const QList<QLabel*> labels = box.findChildren<QLabel*>();
-  const auto label = std::ranges::find(labels, words, &QLabel::text);
-  if (main_ && label != labels.end()) {
-    const QString sentence = main_->announcer().takeSentence();
-    if (!sentence.isEmpty()) words.prepend(sentence + ". ");
-    (*label)->setAccessibleName(words);
-  }
-  // A key that is kept away from the box cuts short what is said of it all the same.
-  Announcer announcer(box);
-  QTimer pause;
-  pause.setSingleShot(true);
-  pause.setInterval(pauseAfterKeys);
-  QObject::connect(&pause, &QTimer::timeout, [&] { announcer.announce(words); });
-  keyGuard_.keptFromBox = [&] { pause.start(); };
-  letKeyBeTakenIn();
-  const int answer = box.exec();
-  keyGuard_.keptFromBox = nullptr;
-  if (buttons == Buttons::ok) return Answer::ok;
-  return answer == QMessageBox::Yes ? Answer::yes : Answer::no;
+platform::Desktop::Answer QtDesktop::messageBox(std::string_view text, Buttons buttons) {
+  const QString pending = main_ ? main_->announcer().takeSentence() : QString();
+  return showMessageBox(toQString(program_.messageTitle), toQString(text), buttons, pending,
+                        keyGuard_, main_.get());
 }
 
 void QtDesktop::announce(std::string_view sentence) {
@@ -151,18 +114,24 @@ void QtDesktop::yield() {
   if (main_) main_->view().setYielding(false);
 }
 
+double QtDesktop::secondsSinceMidnight() {
+  const auto now = std::chrono::system_clock::now();
+  const auto midnight = std::chrono::floor<std::chrono::days>(now);
+  return std::chrono::duration<double>(now - midnight).count();
+}
+
 void QtDesktop::showModal(platform::Form& form) {
-  letKeyBeTakenIn();
-  FormDialog(form, main_.get()).run();
+  waitForScreenReader();
+  FormDialog(form, zoom_.factor(), main_.get()).run();
 }
 
 void QtDesktop::endProgram() {
-  // Leaving through the event loop would let more handlers run; the windows go with the process.
+  // Leaving through the event loop would let more handlers run.
   std::_Exit(EXIT_SUCCESS);
 }
 
 FormWindow& QtDesktop::show(platform::Form& form, std::string_view greeting) {
-  main_ = std::make_unique<FormWindow>(form);
+  main_ = std::make_unique<FormWindow>(form, zoom_);
   printer_.setParentWindow(main_.get());
   announce(greeting);
   main_->show();

@@ -11,6 +11,7 @@
 #include <QPdfWriter>
 #include <QPrinterInfo>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QProgressDialog>
 #include <QSaveFile>
 #include <QTemporaryFile>
@@ -19,27 +20,27 @@
 #include <optional>
 
 #include "qt/convert.h"
+#include "qt/modal.h"
 
 namespace qt {
 namespace {
 
 constexpr double pointsPerInch = 72;
 constexpr double linePitch = pointsPerInch / 6;
-/// What printers may not be able to reach at the edges of the paper, in points.
+/// The part of the paper's edges that a printer may not reach, in points.
 constexpr double smallestMargin = pointsPerInch / 4;
 
-/// The width of a character of the fixed-pitch typefaces that `font` may be, in ems: 12 points make
-/// 10 characters to the inch.
+/// The width of a character in ems, for fixed-pitch typefaces: 12 points make 10 characters to the
+/// inch.
 constexpr double characterWidth = 0.6;
 
-/// The size at which lines are drawn before they are scaled to that of the font: typefaces take
-/// whole numbers only.
+/// The pixel size at which lines are drawn before they are scaled to the size of the font, since
+/// pixel sizes are whole numbers.
 constexpr int drawnSize = 100;
 
-/// How long the print system may take to answer, and how long of that nobody notices, in
-/// milliseconds.
-constexpr int patience = 10000;
-constexpr int unnoticed = 200;
+// Milliseconds.
+constexpr int timeToAnswer = 10000;  ///< for the print system
+constexpr int timeUntilBox = 200;    ///< a wait too short to need a box
 
 constexpr std::string_view notSent =
     "The page could not be sent to the printer; it can be printed again.";
@@ -56,19 +57,22 @@ QPrinterInfo printerToUse() {
   return all.isEmpty() ? usual : all.first();
 }
 
-/// What a command of the print system says on standard output: no text where it fails, nothing
-/// where it has not ended when the user cancels or the time is up. A modal box over the window
-/// keeps another page from being printed meanwhile, but the window goes on to be drawn.
+/// Runs a command of the print system, in English, and returns its standard output. This is empty
+/// if the command fails, and missing if the user cancels it or the time is up. A modal box over the
+/// window keeps another page from being printed meanwhile; the window is still repainted.
 std::optional<QString> ask(const QString& command, const QStringList& arguments, QWidget* window) {
   QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("LC_ALL", "C");
+  process.setProcessEnvironment(environment);
   process.start(command, arguments);
-  if (!process.waitForFinished(unnoticed) && process.state() != QProcess::NotRunning) {
+  if (!process.waitForFinished(timeUntilBox) && process.state() != QProcess::NotRunning) {
     QProgressDialog box("Sending the page to the printer ...", "Cancel", 0, 0, window);
     box.setWindowTitle(QCoreApplication::applicationName());
     box.setWindowModality(Qt::WindowModal);
     QObject::connect(&process, &QProcess::finished, &box, &QDialog::accept);
-    QTimer::singleShot(patience - unnoticed, &box, &QDialog::reject);
-    box.exec();
+    QTimer::singleShot(timeToAnswer - timeUntilBox, &box, &QDialog::reject);
+    runModal(box);
   }
   if (process.state() == QProcess::NotRunning) return process.readAllStandardOutput();
   process.kill();
@@ -106,7 +110,7 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   font.setStyleHint(QFont::TypeWriter);
   font.setPixelSize(drawnSize);
   painter.setFont(font);
-  // A stand-in of another width is stretched, so that columns stand where they should.
+  // A substitute of another width is stretched, so that the columns keep their places.
   const QFontMetricsF metrics(font, &writer);
   const double lineScale = font_.points / drawnSize;
   const double columnScale = width / metrics.horizontalAdvance(QString(columns, 'M'));
@@ -121,26 +125,31 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
 }
 
 void QtPrinter::endDocument() {
-  const Failure failure = printOrSave();
+  const std::string_view message = printOrSave();
   lines_.clear();
-  if (!failure.empty()) messageBox_(failure, Buttons::ok);
+  if (!message.empty()) messageBox_(message, Buttons::ok);
 }
 
-QtPrinter::Failure QtPrinter::printOrSave() const {
-  // The toolkit's look-up blocks the window until the print system answers, be that never. A
-  // command that asks it first can be waited for, and given up.
-  if (!ask("lpstat", {"-d"}, window_)) return notSent;
+std::string_view QtPrinter::printOrSave() const {
+  // Qt's look-up blocks the window until the print system answers, if ever. A command that asks it
+  // first can be waited for and cancelled.
+  const std::optional<QString> printers = ask("lpstat", {"-d", "-p"}, window_);
+  if (!printers) return notSent;
   const QPrinterInfo printer = printerToUse();
   const QPageSize paper = printer.defaultPageSize();
   const QByteArray pdf = sheet(paper.isValid() ? paper : usualPaper());
-  return printer.isNull() ? saveAsPdf(pdf) : sendToPrinter(printer.printerName(), pdf);
+  if (printer.isNull()) return saveAsPdf(pdf);
+  const std::string_view failure = sendToPrinter(printer.printerName(), pdf);
+  const bool isStopped =
+      printers->contains("printer " + printer.printerName() + " disabled since ");
+  return failure.empty() && isStopped ? "The printer is stopped; the page waits for it." : failure;
 }
 
-QtPrinter::Failure QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) const {
+std::string_view QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) const {
   QTemporaryFile file(QDir::tempPath() + "/XXXXXX.pdf");
   if (!file.open() || file.write(pdf) != pdf.size() || !file.flush()) return notSent;
-  // The print system's own command is used because the toolkit's printing does not tell whether
-  // the job has been accepted: then the command says what it is called.
+  // Qt's printing does not report whether the job has been accepted. The print system's own command
+  // then names the job.
   const std::optional<QString> job =
       ask("lp", {"-d", printer, "-t", documentName_, file.fileName()}, window_);
   if (!job) {
@@ -150,26 +159,25 @@ QtPrinter::Failure QtPrinter::sendToPrinter(const QString& printer, const QByteA
   return job->isEmpty() ? notSent : "";
 }
 
-QtPrinter::Failure QtPrinter::saveAsPdf(const QByteArray& pdf) const {
+std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
   messageBox_("No printer was found; the page can be saved as PDF.", Buttons::ok);
   QFileDialog dialog(window_, "Save the page as PDF", {}, "PDF (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
   dialog.setWindowModality(Qt::WindowModal);
-  // Asked here instead: desktops bring dialogs of their own, and not each puts the suffix behind
-  // the name before it asks.
+  // The program asks instead, because some desktops' own dialogs ask before they append the suffix.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
-  // A home that is not known counts as the root, which is no place for files.
+  // If the home folder is unknown, Qt returns the root folder.
   QFileInfo target(QDir::home().isRoot() ? QDir::temp() : QDir::home(), documentName_ + ".pdf");
   do {
     dialog.selectFile(target.filePath());
-    if (dialog.exec() != QDialog::Accepted) return {};
+    if (runModal(dialog) != QDialog::Accepted) return {};
     target.setFile(dialog.selectedFiles().first());
   } while (target.exists() &&
            messageBox_((target.fileName() + " is already there: replace it?").toStdString(),
-                       Buttons::yesNo) != Answer::yes);
+                       Buttons::yesNoDefaultNo) != Answer::yes);
   QSaveFile file(target.filePath());
-  // Flushed first, because committing does not notice that a disk is full.
+  // Flushed first, because commit() does not report a full disk.
   if (file.open(QIODevice::WriteOnly) && file.write(pdf) == pdf.size() && file.flush() &&
       file.commit()) {
     return {};

@@ -15,23 +15,22 @@
 
 namespace qt {
 
-/// Prints on the desktop's default printer, or, where there is none, into a PDF file that the user
-/// names.
-///
-/// The sheet is made as a PDF in memory first, so that it is handed over whole or not at all.
+/// Printer that prints on the desktop's default printer, or, if there is none, into a PDF file that
+/// the user names. The page is first made as a PDF in memory, so that it is sent whole or not at
+/// all.
 class QtPrinter final : public platform::Printer {
  public:
   using Buttons = platform::Desktop::Buttons;
   using Answer = platform::Desktop::Answer;
   using MessageBox = std::function<Answer(std::string_view, Buttons)>;
 
-  /// `documentName` is what the printer's queue shows, and the name that a file is offered;
-  /// `messageBox` tells or asks the user something, in one sentence.
+  /// `documentName` is shown in the printer's queue and proposed as the name of a file.
+  /// `messageBox` shows the user a message or a question.
   QtPrinter(QString documentName, MessageBox messageBox)
       : documentName_(std::move(documentName)), messageBox_(std::move(messageBox)) {}
 
-  /// The window over which the user is asked for a file name, and which takes no input while a page
-  /// is on its way to the printer.
+  /// Sets the parent of the file dialog, which accepts no input while a page is on its way to the
+  /// printer.
   void setParentWindow(QWidget* window) { window_ = window; }
 
   void setFontName(std::string_view name) override { font_.name = name; }
@@ -39,18 +38,15 @@ class QtPrinter final : public platform::Printer {
   void printLine(std::string_view text) override;
   void endDocument() override;
 
-  /// The lines printed so far as a PDF of one sheet of the given paper, upright. The lines stand
-  /// whole on it, in the middle: at their own size where the paper is large enough, else scaled
-  /// down.
+  /// Returns the lines printed so far as a PDF of one upright sheet of the paper, centred, and
+  /// scaled down only if the paper is too small.
   QByteArray sheet(const QPageSize& paper) const;
 
  private:
-  /// What went wrong, in one sentence; empty where nothing did.
-  using Failure = std::string_view;
-
-  Failure printOrSave() const;
-  Failure sendToPrinter(const QString& printer, const QByteArray& pdf) const;
-  Failure saveAsPdf(const QByteArray& pdf) const;
+  // Each returns a message for the user, or an empty text on success.
+  std::string_view printOrSave() const;
+  std::string_view sendToPrinter(const QString& printer, const QByteArray& pdf) const;
+  std::string_view saveAsPdf(const QByteArray& pdf) const;
 
   QString documentName_;
   MessageBox messageBox_;

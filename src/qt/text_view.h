@@ -6,13 +6,14 @@
 
 namespace qt {
 
-/// Shows a text box.
+/// Widget that shows a text box.
 class TextView final : public QTextEdit {
  public:
-  TextView(const platform::TextBox& box, QWidget* parent);
+  TextView(const platform::TextBox& box, double zoom, QWidget* parent);
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   const platform::TextBox& box_;

@@ -5,10 +5,10 @@
 
 namespace tessoro {
 
-/// The value of the line "a op1 b op2 c", multiplication before addition and subtraction, those
-/// from left to right. -1 when the line has no value: a number is 0 (which is how an empty cell
-/// reads), an operator is not one of "+", "-", "*", or a step leaves 16 signed bits. With digits
-/// the values lie between -80 and 729; -1 can be one of them, and is no digit either way.
+/// Returns the value of the line "a op1 b op2 c": multiplication first, then addition and
+/// subtraction from left to right. Returns -1 if the line has no value: a number is 0 (an empty
+/// cell), an operator is not one of "+", "-", "*", or a step overflows 16 signed bits. Digits give
+/// values from -80 to 729; a line can really be worth -1, which is no valid result either.
 std::int16_t EvalLine(std::int16_t a, std::int16_t b, std::int16_t c, std::string_view op1,
                       std::string_view op2);
 

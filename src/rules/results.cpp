@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <string_view>
 
 #include "board/captions.h"
 #include "rules/eval_line.h"
@@ -11,19 +10,13 @@
 namespace tessoro {
 namespace {
 
-constexpr int alongRow = 1;
-constexpr int downColumn = gridSide;
+constexpr int rowStep = 1;
+constexpr int columnStep = gridSide;
 
-/// Four number cells whose lines together are all rows and columns of numbers.
+/// Number cells whose lines together cover all rows and columns of numbers.
 constexpr std::array<int, 4> cellsOfAllLines{3, 5, 15, 29};
 
-constexpr std::array<int, 6> lineResultCells = [] {
-  std::array<int, 6> cells{};
-  std::ranges::copy_if(numberCells, cells.begin(), [](int cell) {
-    return roleOf(cell) == CellRole::rowResult || roleOf(cell) == CellRole::columnResult;
-  });
-  return cells;
-}();
+constexpr std::array<int, 6> lineResultCells{7, 21, 35, 43, 45, 47};
 
 }  // namespace
 
@@ -32,8 +25,8 @@ void Results::show(int value, int cell) {
 }
 
 void Results::updateLine(int first, int step) {
-  const auto caption = [&](int place) -> const std::string& {
-    return board_.GridDisp[first + place * step].caption();
+  const auto caption = [&](int position) -> const std::string& {
+    return board_.GridDisp[first + position * step].caption();
   };
   const int value = EvalLine(readNumber(caption(0)), readNumber(caption(2)), readNumber(caption(4)),
                              caption(1), caption(3));
@@ -43,8 +36,8 @@ void Results::updateLine(int first, int step) {
 void Results::UpdateLines(std::string_view code) {
   const std::string_view row = code.substr(0, 2);
   const std::string_view column = code.substr(row.size(), 2);
-  if (const int first = readNumber(row); first != 0) updateLine(first, alongRow);
-  if (const int first = readNumber(column); first != 0) updateLine(first, downColumn);
+  if (const int first = readNumber(row); first != 0) updateLine(first, rowStep);
+  if (const int first = readNumber(column); first != 0) updateLine(first, columnStep);
 }
 
 void Results::UpdateCornerResult() {
@@ -53,7 +46,7 @@ void Results::UpdateCornerResult() {
   if (unknown) {
     board_.GridDisp[CornerCells[4]].caption = std::string(noNumber);
   } else {
-    updateLine(CornerCells[3], alongRow);
+    updateLine(CornerCells[3], rowStep);
   }
 }
 

@@ -6,17 +6,17 @@
 
 namespace tessoro {
 
-/// Recomputes the board's result cells from what the board shows. A result is shown when it is a
-/// digit 1..9, anything else as "?".
+/// Recalculation of the result cells from the board's captions. A result that is not a digit 1..9
+/// is shown as "?".
 class Results {
  public:
   explicit Results(Board& board) : board_(board) {}
 
-  /// Recomputes the row and the column that `code` names, four digits "RRCC": RR the first cell of
-  /// the row, CC the column; "00" names none.
+  /// Recomputes the row that starts at cell RR and the column that starts at cell CC of the code
+  /// "RRCC"; "00" names none.
   void UpdateLines(std::string_view code);
-  /// Leaves in cell 49 the value of row 7, or "?" when one of the six other results is "?". Column
-  /// 7 ends there too, but its value would never stay, so it is not worked out.
+  /// Shows the value of row 7 in cell 49, or "?" while any of the six other results is "?". Column
+  /// 7 ends there too, but row 7 would overwrite its value, so it is not computed.
   void UpdateCornerResult();
   /// Recomputes all rows and columns of numbers, then cell 49.
   void updateAll();

@@ -6,23 +6,19 @@
 
 namespace tessoro {
 
-/// Where random digits come from.
+/// Source of random digits.
 class Digits {
  public:
-  Digits() = default;
-  Digits(const Digits&) = delete;
-  Digits& operator=(const Digits&) = delete;
   virtual ~Digits() = default;
 
-  /// A digit 1..9: 1 with probability 1/18, each of 2 to 8 with 1/9, 9 with 1/6.
+  /// Returns a digit 1..9: 1 with probability 1/18, each of 2 to 8 with 1/9, 9 with 1/6.
   virtual int draw() = 0;
 };
 
-/// Digits of a random generator that is reseeded from the time of day before each of them.
+/// Random digits from a generator that is reseeded from the time of day before each draw.
 ///
-/// Reseeding mixes the time into the generator's state and never replaces it. Many digits are
-/// drawn within one tick of any clock, and they have to differ all the same; so do those of a
-/// clock that stands still or is set back.
+/// Reseeding mixes the time into the state instead of replacing it. So the digits also vary when
+/// many are drawn within one clock tick, or when the clock stops or is set back.
 class ReseededDigits final : public Digits {
  public:
   explicit ReseededDigits(platform::Desktop& desktop) : desktop_(desktop) {}
@@ -30,10 +26,6 @@ class ReseededDigits final : public Digits {
   int draw() override;
 
  private:
-  void reseed(double secondsSinceMidnight);
-  /// A number of the uniform distribution on [0, 1).
-  double uniform();
-
   platform::Desktop& desktop_;
   std::uint64_t state_ = 0;
 };

@@ -40,7 +40,7 @@ void SetAPuzzle::enter() {
 
 void SetAPuzzle::leave() {
   state_.SolveMode = false;
-  // The capital S is meant: it tells a player that the mode has been on before.
+  // The capital S is intended: it shows that the mode has been on before.
   controls_.SolveMx.caption = "Set a Puzzle for computer to Solve";
   controls_.CompMess.Visible = false;
   state_.BoardLocked = true;
@@ -50,7 +50,7 @@ void SetAPuzzle::leave() {
   controls_.NewPuz.Visible = true;
   for (int k = 1; k <= 4; ++k) {
     state_.*cornerTargets[k] = -1;
-    // In play the corners are the puzzle's number and results of lines, not the player's to set.
+    // In play the corners hold the given number and results, which the player cannot set.
     board_.GridDisp[CornerCells[k]].enabled = false;
   }
   board_.colourCorners(ColGreen);

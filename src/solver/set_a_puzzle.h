@@ -12,10 +12,10 @@
 
 namespace tessoro {
 
-/// The mode in which the user states a puzzle by its four corners and the computer solves it.
+/// Mode in which the user sets the four corners of a puzzle and the computer solves it.
 class SetAPuzzle {
  public:
-  /// The controls that the mode shows, hides or disables.
+  /// Controls that the mode shows, hides or disables.
   struct Controls {
     platform::MenuItem& SolveMx;
     platform::MenuItem& StartSolx;
@@ -35,11 +35,11 @@ class SetAPuzzle {
         desktop_(desktop),
         controls_(controls) {}
 
-  /// The menu command that enters the mode, or leaves it when it is on.
+  /// Enters the mode, or leaves it if it is on.
   void SolveMx_Click();
-  /// The button "Solve Puzzle": searches a solution with the stated corners and shows it.
+  /// Searches for a solution with the user's corners and shows it.
   void Solveit_Click();
-  /// The right mouse button on "Solve Puzzle"; the arguments are not used.
+  /// Answers a right click on "Solve Puzzle"; ignores its arguments.
   void Solveit_ContextMenu(std::int16_t Shift, double X, double Y);
 
  private:

@@ -10,16 +10,8 @@ bool isFixed(std::int16_t target) {
   return target > 0;
 }
 
-std::string_view firstOperator(std::size_t pair) {
-  return OpPairs[pair].substr(0, 1);
-}
-std::string_view secondOperator(std::size_t pair) {
-  return OpPairs[pair].substr(1);
-}
-
-/// Sets the values of "a op1 b op2 c" under the pairs of `OpPairs`, in its order. With digits 1..9
-/// they lie between -80 and 729. They are set in place, one by one, because copying an array that
-/// has just been written in smaller parts makes the processor wait.
+/// Stores the values of "a op1 b op2 c" in the order of `OpPairs`; digits 1..9 give -80 to 729.
+/// Writes them in place, because copying a freshly written array stalls the processor.
 void setPairValues(SolutionAttempt::PairValues& values, int a, int b, int c) {
   const auto set = [&](std::size_t k, int value) { values[k] = static_cast<std::int16_t>(value); };
   set(1, a + b + c);
@@ -56,7 +48,7 @@ void SolutionAttempt::drawRow(int row) {
   const int start = (row - 1) * 4 + 1;
   do {
     for (int k = start; k < start + 3; ++k) {
-      const int digit = digits_.draw();  // drawn even where the number is fixed
+      const int digit = digits_.draw();  // a fixed number uses up a draw, too
       const bool fixed = k == 1 && isFixed(state_.TargetTL);
       state_.SolNumbers[k] = digitTexts_[fixed ? state_.TargetTL : digit];
     }
@@ -71,7 +63,7 @@ bool SolutionAttempt::chooseColumns() {
   for (int col = 1; col <= 4; ++col) {
     ChooseColPair(col);
     if (!found()) return false;
-    // Column 4's entries are provisional: the match of the grand total replaces them.
+    // For column 4 this is provisional: MatchGrandTotal() replaces it.
     state_.SolNumbers[12 + col] = LineResult;
     state_.SolOperators[7 + 2 * col] = LineOp1;
     state_.SolOperators[8 + 2 * col] = LineOp2;
@@ -99,15 +91,15 @@ void SolutionAttempt::choosePair(int first, int step, std::int16_t target) {
   for (std::size_t k = 1; k <= PairCount; ++k) {
     if (isDigit(PairValue[k]) && (!isFixed(target) || PairValue[k] == target)) {
       LineResult = digitTexts_[PairValue[k]];
-      takeOperators(k);
+      setOperators(k);
       return;
     }
   }
 }
 
-void SolutionAttempt::takeOperators(std::size_t pair) {
-  LineOp1 = firstOperator(pair);
-  LineOp2 = secondOperator(pair);
+void SolutionAttempt::setOperators(std::size_t pair) {
+  LineOp1 = OpPairs[pair].substr(0, 1);
+  LineOp2 = OpPairs[pair].substr(1);
 }
 
 void SolutionAttempt::MatchGrandTotal() {
@@ -116,9 +108,10 @@ void SolutionAttempt::MatchGrandTotal() {
     for (std::size_t j = 1; j <= PairCount; ++j) {
       const std::int16_t total = ColPairValue[j];
       if (!isDigit(total) || RowPairValue[i] != total) continue;
-      state_.SolOperators[7] = firstOperator(i);
-      state_.SolOperators[8] = secondOperator(i);
-      takeOperators(j);
+      setOperators(i);
+      state_.SolOperators[7] = LineOp1;
+      state_.SolOperators[8] = LineOp2;
+      setOperators(j);
       if (isFixed(state_.TargetBR) && total != state_.TargetBR) continue;
       state_.SolNumbers[16] = digitTexts_[total];
       state_.SolOperators[15] = LineOp1;

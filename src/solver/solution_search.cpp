@@ -10,7 +10,7 @@ namespace {
 
 constexpr int maxTries = 500;
 
-/// The number after the largest that 16 signed bits hold is 1 again.
+/// Returns the following puzzle number, which is 1 after 32767.
 constexpr std::int16_t nextPuzzleNo(std::int16_t number) {
   const bool last = number == std::numeric_limits<std::int16_t>::max();
   return static_cast<std::int16_t>(last ? 1 : number + 1);

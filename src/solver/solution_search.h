@@ -10,7 +10,7 @@
 
 namespace tessoro {
 
-/// Makes the puzzles and solves the user's: random attempts until one gives a solution.
+/// Search for a solution by random attempts, which makes new puzzles and solves the user's.
 class SolutionSearch {
  public:
   SolutionSearch(PuzzleState& state, Board& board, Digits& digits, PrintPage& page,
@@ -23,17 +23,16 @@ class SolutionSearch {
         Solveit_(Solveit),
         attempt_(state, digits) {}
 
-  /// Searches for a solution with the corners that the targets fix. Finding one makes it the
-  /// current puzzle: numbered in the window's title, in the corners of the board, and on the print
-  /// page; the outer corner cells are hidden, and `Solveit` is disabled. After 500 attempts the
-  /// search gives up: it says so, leaves nothing on the board but the corners, and gives the number
-  /// back. The windows process their events before each attempt. The rest of the board is the
-  /// caller's to clear.
+  /// Searches for a solution with the corners that the targets fix, processing pending events
+  /// before each attempt. On success stores it as the current puzzle, updates title, corners and
+  /// print page, hides the outer corner cells and disables `Solveit`. After 500 attempts shows a
+  /// message, clears the board between the corners and restores the puzzle number. After a success
+  /// the board between the corners is the caller's to clear or fill.
   void FindSolution();
 
-  /// The last search found a solution, or one is running.
+  /// Returns whether the last search found a solution; true while one is running.
   bool SolveFound() const { return SolveFound_; }
-  /// A search is running: the caller is a handler that came in while it yielded.
+  /// Returns whether a search is running, that is, whether it yielded to the calling handler.
   bool underWay() const { return underWay_; }
 
  private:

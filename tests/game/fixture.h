@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -11,82 +12,118 @@
 
 namespace tessoro::test {
 
-struct ProgramEnded {};
 using Log = std::vector<std::string>;
 
-/// A desktop without windows that keeps what it is asked for in a log. The test answers its boxes
-/// and runs handlers while it yields.
+struct ProgramEnded {};
+
+/// A desktop without windows that records what the game asks of it.
 struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpViewer {
   void announce(std::string_view sentence) override { said.emplace_back(sentence); }
-  Answer showMessageBox(std::string_view text, Buttons buttons) override {
-    log.push_back(std::string(text) + (buttons == Buttons::ok ? " [OK]" : " [Yes] [No]"));
-    said.push_back(log.back());
+  Answer messageBox(std::string_view text, Buttons buttons) override {
+    said.push_back(std::string(text) + (buttons == Buttons::ok ? " [OK]" : " [Yes] [No]"));
     return buttons == Buttons::ok ? Answer::ok : answer;
   }
   void yield() override { onYield(); }
   double secondsSinceMidnight() override { return clock += tick; }
-  void showModal(platform::Form& form) override { log.push_back(form.caption()); }
+  void showModal(platform::Form& form) override { opened.push_back(form.caption()); }
   platform::Printer& printer() override { return *this; }
-  void setFontName(std::string_view name) override { log.emplace_back(name); }
-  void setFontSize(double points) override { log.push_back(std::to_string(points)); }
-  void printLine(std::string_view text) override { log.emplace_back(text); }
-  void endDocument() override { log.emplace_back("end"); }
+  void setFontName(std::string_view name) override { printFont += name; }
+  void setFontSize(double points) override { printFont += " " + std::to_string(points); }
+  void printLine(std::string_view text) override { printed += std::string(text) + "\n"; }
+  void endDocument() override { ++documents; }
   platform::HelpViewer& helpViewer() override { return *this; }
   bool WinHelpA(const platform::Form& owner, std::string_view file, unsigned command,
                 unsigned data) override {
-    log.insert(log.end(), {owner.caption(), std::string(file), std::to_string(command + data)});
-    return false;
+    opened.insert(opened.end(), {owner.caption(), std::string(file)});
+    return command == platform::HELP_CONTENTS && data == 0;
   }
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
-  Log log;
-  Log said;  ///< what a screen reader was to speak, and the boxes
-  Answer answer = Answer::no;
-  std::function<void()> onYield = [] {};
-  double clock = 30000;
-  double tick = 1e-6;  ///< how far the clock goes on between two readings
+  Log said;    ///< what a screen reader speaks: sentences, and boxes as "You got it ! [OK]"
+  Log opened;  ///< modal forms, help files and the windows that they belong to
+  std::string printed, printFont;
+  int documents = 0;
+  Answer answer = Answer::no;             ///< to a question
+  std::function<void()> onYield = [] {};  ///< runs while a search yields
+  double clock = 30000, tick = 1e-6;      ///< in seconds: the time, and how far each reading is on
 };
 
-/// The game, started on a puzzle whose solution is known. It draws the digits of `script`, and when
-/// they are used up, real ones.
+/// The game, started on a puzzle whose solution is known.
 struct GameTest : testing::Test, Digits {
-  FakeDesktop desktop;
-  std::string script;
-  ReseededDigits real{desktop};
-  Game game{desktop, *this};
-  PuzzleState& state = game.state;
-  Form1& form = game.form;
-  const std::string known = "771534952";
-  const std::string corners = "Corners: top left 7, top right 1, bottom left 3, bottom right 8";
-  /// What `look` gives between the first and the last row: an empty grid, and the known solution.
-  const std::string emptyRows =
-      "\n_.#._.#._.#._.\n_._._._._. = .\n_.#._.#._.#._.\n_._._._._. = .\n =#. =#. =#. =\n";
-  const std::string knownRows =
-      "\n_+#._+#._+#._*\n_5_+_3_-_4 = 4\n_-#._-#._+#._*\n_9_-_5_-_2 = 2\n =#. =#. =#. =\n";
+  static constexpr const char* solution =
+      "7 - 7 + 1 = 1\n"
+      "+ # + # + # *\n"
+      "5 + 3 - 4 = 4\n"
+      "- # - # + # *\n"
+      "9 - 5 - 2 = 2\n"
+      "= # = # = # =\n"
+      "3 * 5 - 7 = 8\n";
+  /// The digits from which a search makes that solution, and those of an attempt that fails.
+  static constexpr const char *solutionDigits = "771534952", *failingDigits = "112112112";
 
-  int draw() override {
-    if (script.empty()) return real.draw();
-    const int digit = script.front() - '0';
-    script.erase(0, 1);
-    return digit;
-  }
-  void SetUp() override {
-    script = known;
+  FakeDesktop desktop;
+  std::string nextDigits = solutionDigits;  ///< the digits drawn next; then come random ones
+  ReseededDigits randomDigits{desktop};
+  Game game{desktop, *this};
+  Form1& form = game.form;
+  int focused = 0;  ///< the cell that has been given the focus last
+
+  GameTest() {
+    for (int i = 1; i <= gridCells; ++i) cell(i).focusWanted = [this, i] { focused = i; };
     game.startUp.Form_Load();
   }
-  std::string look() const { return Invariants::look(game); }
+  int draw() override {
+    if (nextDigits.empty()) return randomDigits.draw();
+    const int digit = nextDigits.front() - '0';
+    nextDigits.erase(0, 1);
+    return digit;
+  }
+  void failNextSearch(int attempts = 500) {
+    for (nextDigits.clear(); attempts > 0; --attempts) nextDigits += failingDigits;
+  }
+
   Cell& cell(int index) { return form.board.GridDisp[index]; }
   const std::string& caption(int index) { return cell(index).caption(); }
   void press(int index, platform::MouseButton button = platform::MouseButton::left) {
     cell(index).press({.button = button});
   }
-  static void clickButton(Cell& button) {
+  static void click(Cell& button) {
     button.press({});
     button.release(platform::MouseButton::left, true);
   }
+  /// Presses a cell until it shows the text.
   void turnTo(int index, const std::string& text) {
     for (int presses = 0; caption(index) != text && presses < 10; ++presses) press(index);
   }
+  /// Turns the cells from the first one on to what is drawn; "." leaves a cell as it is.
+  void turn(int first, const std::string& drawn, int except = 0) {
+    std::istringstream texts(drawn);
+    for (std::string text; texts >> text; ++first) {
+      if (text != "." && first != except && cell(first).enabled()) turnTo(first, text);
+    }
+  }
+  void turnRow(int row, const std::string& drawn) { turn((row - 1) * gridSide + 1, drawn); }
+  void solveExcept(int left) { turn(1, solution, left); }
+  /// Chooses the menu item with this caption.
+  void choose(const std::string& text) {
+    for (const auto* item : form.Gamex.items) {
+      if (item->caption() == text) item->choose();
+    }
+  }
+  /// Types a character while the cell has the focus, a capital with Shift. Returns whether it has a
+  /// meaning there.
+  static bool type(const Cell& on, char character) {
+    const bool shift = character >= 'A' && character <= 'Z';
+    return on.typed && on.typed(static_cast<char>(shift ? character + 32 : character), shift);
+  }
+  bool type(int index, char character) { return type(cell(index), character); }
+
+  std::string grid() const { return drawnGrid(form.board); }
+  std::string corners() const { return drawnCorners(form.board); }
+  std::string lastSaid() const { return desktop.said.empty() ? "" : desktop.said.back(); }
 };
+
+/// Names a row of a parameterised test in the test's output.
+constexpr auto nameOf = [](const auto& row) { return std::string(row.param.name); };
 
 }  // namespace tessoro::test

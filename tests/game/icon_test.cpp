@@ -16,10 +16,11 @@ TEST(IconTest, InstalledIconIsThePictureOfTheWindows) {
   const std::regex rect(R"re(x="(\d+)" y="(\d+)" width="(\d+)" height="(\d+)")re"
                         R"re( fill="#(\w\w)(\w\w)(\w\w)")re");
   for (std::sregex_iterator it(svg.begin(), svg.end(), rect); it != std::sregex_iterator(); ++it) {
-    const auto number = [&](int group, int base = 10) {
-      return static_cast<std::uint32_t>(std::stoul((*it)[group], nullptr, base));
+    const auto number = [&](int group) { return std::stoul((*it)[group]); };
+    const auto byte = [&](int group) -> std::uint32_t {
+      return std::stoi((*it)[group], nullptr, 16);
     };
-    const auto colour = platform::rgb(number(5, 16), number(6, 16), number(7, 16));
+    const auto colour = platform::rgb(byte(5), byte(6), byte(7));
     const auto* const found = std::ranges::find(platform::palette, colour);
     const char pixel = "0123456789ABCDEF?"[found - platform::palette.begin()];
     for (auto y = number(2); y < number(2) + number(4); ++y) {

@@ -1,127 +1,198 @@
 #pragma once
 
-#include <map>
+#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "app/game.h"
 #include "app/spoken_board.h"
-#include "board/captions.h"
-#include "rules/eval_line.h"
 
 namespace tessoro::test {
 
-/// What must hold of the game after every event, whatever the player does. It watches one game.
+/// The 7 by 7 cells as the player sees them: '.' is an empty one, '#' a hole.
+inline std::string drawnGrid(const Board& board) {
+  std::string drawn;
+  for (int i = 1; i <= gridCells; ++i) {
+    const Cell& it = board.GridDisp[i];
+    const char* none = it.backcolor() == ColBlack ? "#" : ".";
+    drawn += it.caption().empty() ? none : it.caption();
+    drawn += columnOf(i) == gridSide ? '\n' : ' ';
+  }
+  return drawn;
+}
+
+/// What stands beside the four corners: ":)", the number to reach, or "." for nothing.
+inline std::string drawnCorners(const Board& board) {
+  std::string drawn;
+  for (int k = 1; k <= 4; ++k) {
+    const Cell& target = board.GridDisp[OuterCornerCells[k]];
+    if (k > 1) drawn += ' ';
+    drawn += board.NPict[k].Visible() ? ":)" : target.Visible() ? target.caption() : ".";
+  }
+  return drawn;
+}
+
+/// What holds after every event, whatever the player does. Watches one game.
 class Invariants {
  public:
-  explicit Invariants(const Game& game) : game_(game), before_(look(game)) {}
+  explicit Invariants(const Game& game) : game_(game) {}
 
-  /// The rule that is broken since the last call; empty if none is. `pressed` is the cell on which
-  /// the one event since then was a press, 0 after other events, and `said` what was heard of it.
+  /// Returns the rule that the event since the last call has broken; empty if none. `pressed` is
+  /// the cell that the event pressed, 0 after any other event, and `said` what was said of it.
   std::string broken(int pressed, const std::string& said) {
-    const std::string before = std::exchange(before_, look(game_));
-    const bool stating = before.find("\nEnd") != std::string::npos;
-    std::string rule;
-    if (pressed != 0 && !stating) rule = brokenByPress(pressed, before);
-    if (pressed != 0 && pressed <= gridCells && roleOf(pressed) != CellRole::hole && rule.empty()) {
-      const bool sets = before != before_ && (!stating || cornerOf(pressed) != 0);
-      if (said.empty() || (sets && !said.starts_with(spoken(caption(pressed)))))
-        rule = "every press is answered";
+    const Position before = std::exchange(now_, Position(game_));
+    const bool changed = before.look != now_.look;
+    const bool moved = pressed != 0 && changed && !before.stating;
+    if (!modeIsShown()) return "The buttons, the messages and the menu are those of the mode";
+    for (int i = 1; i <= gridCells; ++i) {
+      if (!looksLikeItsKind(i))
+        return "Each cell looks like its kind, and is enabled if it can be set";
     }
-    if (game_.search.SolveFound() && rule.empty()) rule = brokenInSolution();
-    return before_.find('!') == std::string::npos ? rule : "cells look as they may";
-  }
-
-  /// What the player sees and can do: what is shown around the board and what is disabled, whether
-  /// the puzzle is over, the targets if any are set; then the grid, each cell as the mark of its
-  /// look and its caption, '.' for none.
-  static std::string look(const Game& game) {
-    const Form1& form = game.form;
-    std::string all = form.caption();
-    if (form.RightMess.Visible()) all += "; " + form.RightMess.caption();
-    if (form.CompMess.Visible()) all += "; " + form.CompMess.caption();
-    for (const auto* it : {&form.NewPuz, &form.Solveit}) {
-      if (it->Visible()) all += it->enabled() ? "; " + it->caption() : "; (" + it->caption() + ")";
-    }
-    all += "\n" + form.SolveMx.caption() + ":";
-    std::string targets;
-    for (int k = 1; k <= 4; ++k) {
-      const Cell& outer = form.board.GridDisp[OuterCornerCells[k]];
-      all += outer.Visible() ? std::string(" ") + mark(outer) + outer.caption() : " ";
-      all += (form.board.NPict[k].Visible() ? ":)" : "");
-      targets += " " + std::to_string(game.state.*cornerTargets[k]);
-    }
-    for (const auto* it : form.Gamex.items) all += it->enabled() ? "" : "; no " + it->caption();
-    if (game.state.BoardLocked) all += "; over";
-    if (targets != " -1 -1 -1 -1") all += "; targets" + targets;
-    for (int index = 1; index <= gridCells; ++index) {
-      const Cell& cell = form.board.GridDisp[index];
-      if (columnOf(index) == 1) all += '\n';
-      all += mark(cell) + (cell.caption().empty() ? "." : cell.caption());
-    }
-    return all;
-  }
-
- private:
-  const Game& game_;
-  std::string before_;  ///< the look
-
-  /// Plain, a hole, or green, red or black with white text; the second mark is an enabled cell's.
-  static char mark(const Cell& cell) {
-    static const std::map<std::pair<unsigned, unsigned>, std::string_view> marks{
-        {{0x80000001, 0x80000000}, " _"},
-        {{0, 0x80000000}, "#%"},
-        {{0x008000, 0xffffff}, "gG"},
-        {{0x000080, 0xffffff}, "rR"},
-        {{0, 0xffffff}, "bB"}};
-    const auto found = marks.find({cell.backcolor().value, cell.forecolor().value});
-    return found == marks.end() || !cell.Visible() ? '!' : found->second[cell.enabled() ? 1 : 0];
-  }
-  const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
-  const std::string& caption(int index) const { return cell(index).caption(); }
-
-  /// The result of the line that has the texts `at` 0 to 4.
-  static std::string resultOf(const auto& at) {
-    const int value =
-        EvalLine(readNumber(at(0)), readNumber(at(2)), readNumber(at(4)), at(1), at(3));
-    return value >= 1 && value <= 9 ? std::to_string(value) : "?";
-  }
-
-  std::string brokenInSolution() const {
-    const PuzzleState& state = game_.state;
-    for (int line = 0; line < 8; ++line) {  // the rows, then the columns
-      const int k = line % 4 + 1;
-      const auto at = [&](int place) {
-        return place % 2 == 1 ? state.SolOperators[2 * line + 1 + place / 2]
-               : line < 4     ? state.SolNumbers[4 * k - 3 + place / 2]
-                              : state.SolNumbers[k + 2 * place];
-      };
-      const int target = state.*cornerTargets[k];
-      if (at(6) != " " + resultOf(at) ||
-          (target > 0 && caption(CornerCells[k]) != std::to_string(target)))
-        return "every solution is true and has the corners asked for";
-    }
+    if (before.puzzle != now_.puzzle && !solutionIsRight())
+      return "A solution is true and has the stated corners";
+    if (moved && (before.over || !cell(pressed).enabled()))
+      return "A puzzle that is over and a disabled cell take no move";
+    if (moved && !resultsFit(pressed)) return "A move leaves in each result the value of its line";
+    if (moved && !cornersFit())
+      return "Corners are right, green and under a face, or wrong, black and beside their target; "
+             "four right ones end the puzzle";
+    const bool onGrid = pressed != 0 && pressed <= gridCells && kinds[pressed] != '#';
+    if (onGrid && said.empty()) return "Every press on the grid is answered";
+    if (onGrid && now_.texts[pressed] != before.texts[pressed] &&
+        !said.starts_with(spoken(now_.texts[pressed])))
+      return "A press is answered first with what its cell shows";
     return {};
   }
 
-  std::string brokenByPress(int pressed, const std::string& before) const {
-    if (before.find("; over") != std::string::npos || !cell(pressed).enabled())
-      return before_ == before ? "" : "a press changes only what takes it";
-    const auto result = [&](int first, int step) {
-      return resultOf([&](int place) { return caption(first + place * step); });
-    };
-    std::string shown;
-    std::string values;
-    for (const int line : {1, 3, 5}) {
-      shown += caption(7 * line) + caption(42 + line);
-      values += result(7 * line - 6, 1) + result(line, 7);
+  /// The position in a text: where two are alike, the player sees and can do the same.
+  static std::string look(const Game& game) { return Position(game).look; }
+
+ private:
+  /// The kinds of the cells 1..49: numbers, operators, equals signs, holes and results.
+  static constexpr std::string_view kinds =
+      " "
+      "1+1+1=?"
+      "+#+#+#+"
+      "1+1+1=?"
+      "+#+#+#+"
+      "1+1+1=?"
+      "=#=#=#="
+      "?+?+?=?";
+
+  using Texts = std::array<std::string, gridCells + 1>;  ///< what the cells show
+
+  struct Position {
+    explicit Position(const Game& game)
+        : stating(game.state.SolveMode),
+          over(game.state.BoardLocked),
+          puzzle(game.state.PuzzleNo),
+          look(game.form.caption() + (over ? " over" : "") + (stating ? " stating" : "")) {
+      const Form1& form = game.form;
+      look += form.RightMess.Visible() ? " get corners right" : "";
+      look += form.Solveit.enabled() ? " can solve" : "";
+      look += "\n" + drawnGrid(form.board) + drawnCorners(form.board);
+      for (int k = 1; k <= 4; ++k) {
+        const auto colour = form.board.GridDisp[CornerCells[k]].backcolor();
+        look += colour == ColGreen ? " green" : colour == ColRed ? " red" : " black";
+      }
+      for (int i = 1; i <= gridCells; ++i) texts[i] = form.board.GridDisp[i].caption();
     }
-    const bool inColumn7 = pressed == 14 || pressed == 28;
-    const bool unknown = pressed < 43 && shown.find('?') != std::string::npos;
-    shown += caption(49);
-    values += inColumn7 ? result(7, 7) : unknown ? "?" : result(43, 1);
-    return shown == values ? "" : "lines show " + values + ", cell 49 that of the operator pressed";
+    bool stating;
+    bool over;
+    int puzzle;
+    std::string look;
+    Texts texts;
+  };
+
+  const Game& game_;
+  Position now_{game_};
+
+  const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
+
+  static int apply(int left, const std::string& op, int right) {
+    return op == "+" ? left + right : op == "-" ? left - right : left * right;
+  }
+  /// The result of the line with this first cell, worked out without the code under test.
+  static std::string resultOf(const Texts& texts, int first, int step) {
+    const auto text = [&](int place) { return texts[first + place * step]; };
+    for (const int place : {0, 1, 2, 3, 4}) {
+      if (text(place).empty() || text(place) == "?") return "?";
+    }
+    const int a = std::stoi(text(0)), b = std::stoi(text(2)), c = std::stoi(text(4));
+    const int value = text(3) == "*" && text(1) != "*" ? apply(a, text(1), b * c)
+                                                       : apply(apply(a, text(1), b), text(3), c);
+    return value >= 1 && value <= 9 ? std::to_string(value) : "?";
+  }
+
+  bool modeIsShown() const {
+    const Form1& form = game_.form;
+    for (const bool inPlay : {form.NewPuz.Visible(), form.StartSolx.enabled(),
+                              form.ShowSolx.enabled(), !form.Solveit.Visible(),
+                              !form.CompMess.Visible(), form.SolveMx.caption().starts_with("Set")})
+      if (inPlay == now_.stating) return false;
+    return !now_.stating || !form.RightMess.Visible();
+  }
+
+  bool looksLikeItsKind(int index) const {
+    const Cell& it = cell(index);
+    const bool corner = cornerOf(index) != 0;
+    const char kind = corner ? '?' : kinds[index];
+    const std::string_view texts = kind == '+' ? "+-*" : kind == '=' ? "=" : "123456789?";
+    const bool shows = it.caption().empty() ? kind != '=' : texts.find(it.caption()) != texts.npos;
+    const unsigned actions = corner || kind == '1' ? 2 : kind == '+' ? 1 : 0;
+    if (it.accessible.actions.size() != actions) return false;
+    if (!corner)
+      return shows && it.Visible() && it.enabled() == (kind == '1' || kind == '+') &&
+             it.backcolor() == (kind == '#' ? ColBlack : platform::buttonFace);
+    return shows && it.Visible() && it.enabled() == now_.stating && it.forecolor() == ColWhite &&
+           now_.stating == (it.backcolor() == ColRed);
+  }
+
+  bool resultsFit(int pressed) const {
+    bool known = true;
+    for (const int i : {1, 3, 5}) {
+      const std::string row = resultOf(now_.texts, 7 * i - 6, 1);
+      const std::string column = resultOf(now_.texts, i, 7);
+      if (now_.texts[7 * i] != row || now_.texts[42 + i] != column) return false;
+      known = known && row != "?" && column != "?";
+    }
+    // An operator of column 7 leaves that column's value; all else leaves row 7's.
+    if (pressed == 14 || pressed == 28) return now_.texts[49] == resultOf(now_.texts, 7, 7);
+    const bool ofRow7 = pressed == 44 || pressed == 46;
+    return now_.texts[49] == (known || ofRow7 ? resultOf(now_.texts, 43, 1) : "?");
+  }
+
+  bool cornersFit() const {
+    if (!game_.search.SolveFound()) return true;
+    bool solved = true;
+    for (int k = 1; k <= 4; ++k) {
+      const Cell& target = cell(OuterCornerCells[k]);
+      const bool right = now_.texts[CornerCells[k]] == target.caption();
+      if (" " + target.caption() != game_.state.SolNumbers[cornerNumbers[k]] ||
+          target.Visible() == right || game_.form.board.NPict[k].Visible() != right ||
+          cell(CornerCells[k]).backcolor() != (right ? ColGreen : ColBlack))
+        return false;
+      solved = solved && right;
+    }
+    return now_.over == solved && game_.form.RightMess.Visible() == !solved;
+  }
+
+  bool solutionIsRight() const {
+    Texts solved;
+    for (int k = 1; k <= 16; ++k) {
+      solved[numberCells[k]] = game_.state.SolNumbers[k].substr(1);
+      solved[operatorCells[k]] = game_.state.SolOperators[k];
+    }
+    for (const int i : {1, 3, 5, 7}) {
+      if (solved[7 * i] != resultOf(solved, 7 * i - 6, 1)) return false;
+      if (solved[42 + i] != resultOf(solved, i, 7)) return false;
+    }
+    for (int k = 1; k <= 4; ++k) {
+      const int target = game_.state.*cornerTargets[k];
+      if (target > 0 && solved[CornerCells[k]] != std::to_string(target)) return false;
+    }
+    return true;
   }
 };
 

@@ -1,0 +1,52 @@
+#include "qt/modal.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QEventLoop>
+#include <QScopedValueRollback>
+#include <QTimer>
+#include <QWindow>
+
+namespace qt {
+namespace {
+
+bool& boxIsAboutToOpen() {
+  static bool value = false;
+  return value;
+}
+
+}  // namespace
+
+bool isBlocked(const QWidget& widget) {
+  const QWidget* box = QApplication::activeModalWidget();
+  return boxIsAboutToOpen() || (box != nullptr && box != widget.window());
+}
+
+void waitForScreenReader() {
+  constexpr int milliseconds = 100;
+  if (!QAccessible::isActive()) return;
+  const QScopedValueRollback aboutToOpen(boxIsAboutToOpen(), true);
+  QEventLoop loop;
+  QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+}
+
+int runModal(QDialog& dialog) {
+  // A dialog has a window of its own only once it is shown.
+  const auto watchState = [&dialog] {
+    if (dialog.windowHandle() == nullptr) return;
+    QObject::connect(
+        dialog.windowHandle(), &QWindow::windowStateChanged, &dialog,
+        [&dialog](Qt::WindowState state) {
+          // With the window below it, it comes back.
+          const bool isAlone =
+              dialog.parentWidget() == nullptr || !dialog.parentWidget()->isMinimized();
+          if (state == Qt::WindowMinimized && isAlone) dialog.reject();
+        },
+        Qt::QueuedConnection);
+  };
+  QMetaObject::invokeMethod(&dialog, watchState, Qt::QueuedConnection);
+  return dialog.exec();
+}
+
+}  // namespace qt

@@ -1,0 +1,26 @@
+#include "fixture.h"
+
+namespace tessoro::test {
+
+using CornersTest = GameTest;
+
+TEST_F(CornersTest, RightOneIsUnderAFaceInPlaceOfItsTarget) {
+  turnRow(1, "7 - 7 + 1");
+  EXPECT_EQ(corners(), ":) :) 3 8");
+}
+
+TEST_F(CornersTest, FourRightOnesEndThePuzzle) {
+  solveExcept(33);
+  turnTo(33, "2");
+  EXPECT_EQ(lastSaid(), "You got it ! [OK]");
+  press(33);
+  EXPECT_EQ(caption(33), "2") << "no move is taken any more";
+}
+
+TEST_F(CornersTest, NoneIsRightWithoutAPuzzle) {
+  game.state.SolNumbers.fill("");  // as after a search that never came to them
+  press(17);
+  EXPECT_EQ(corners(), "7 1 3 8");
+}
+
+}  // namespace tessoro::test

@@ -1,0 +1,66 @@
+#include "fixture.h"
+
+namespace tessoro::test {
+
+using KeyCommandsTest = GameTest;
+
+TEST_F(KeyCommandsTest, SameCharacterAgainIsNoMove) {
+  solveExcept(46);
+  turnTo(28, "+");
+  type(17, '3');
+  EXPECT_EQ(caption(49), "6") << "column 7's value, which a move elsewhere would replace";
+}
+
+TEST_F(KeyCommandsTest, PAndXNeedNoShift) {
+  type(18, 'p');
+  EXPECT_EQ(caption(18), "+");
+  type(18, 'x');
+  EXPECT_EQ(caption(18), "*");
+}
+
+TEST_F(KeyCommandsTest, NGoesToTheNextEmptyCellAndShiftNToTheOneBefore) {
+  turn(15, "5 + 3 -");
+  type(15, 'n');
+  EXPECT_EQ(focused, 19);
+  type(19, 'N');
+  EXPECT_EQ(focused, 14);
+}
+
+TEST_F(KeyCommandsTest, NGoesRoundFromTheLastToTheFirst) {
+  type(46, 'n');
+  EXPECT_EQ(focused, 2);
+  type(2, 'N');
+  EXPECT_EQ(focused, 46);
+}
+
+TEST_F(KeyCommandsTest, ShiftNGoesFromSolvePuzzleToTheLastCornerToSet) {
+  choose("Set a Puzzle for computer to solve");
+  press(49);
+  type(form.Solveit, 'N');
+  EXPECT_EQ(focused, 43);
+}
+
+TEST_F(KeyCommandsTest, NSaysThatNoOtherCellIsEmpty) {
+  solveExcept(33);
+  type(33, 'n');
+  EXPECT_EQ(lastSaid(), "No other cell is empty");
+}
+
+TEST_F(KeyCommandsTest, ButtonIsInNoRowAndNoColumnAndTakesNoDigit) {
+  EXPECT_FALSE(type(form.NewPuz, 'r'));
+  EXPECT_FALSE(type(form.NewPuz, 'c'));
+  EXPECT_TRUE(type(form.NewPuz, '5'));
+  EXPECT_EQ(desktop.said, Log{"Nothing is set here"});
+}
+
+/// A screen reader can give the focus to what stands there.
+TEST_F(KeyCommandsTest, NothingIsReadBesideTheGrid) {
+  press(17);
+  desktop.said.clear();
+  for (const int index : {0, 50, 51, 52, 53}) {
+    for (const char character : {'r', 'c', 'n'}) type(index, character);
+  }
+  EXPECT_EQ(desktop.said, Log{});
+}
+
+}  // namespace tessoro::test

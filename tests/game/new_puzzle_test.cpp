@@ -1,0 +1,53 @@
+#include "fixture.h"
+
+namespace tessoro::test {
+
+using NewPuzzleTest = GameTest;
+
+TEST_F(NewPuzzleTest, ShowsItsCornersAlone) {
+  solveExcept(33);
+  nextDigits = solutionDigits;
+  click(form.NewPuz);
+  EXPECT_EQ(grid(),
+            "7 . . . . = 1\n"
+            ". # . # . # .\n"
+            ". . . . . = .\n"
+            ". # . # . # .\n"
+            ". . . . . = .\n"
+            "= # = # = # =\n"
+            "3 . . . . = 8\n");
+  EXPECT_EQ(corners(), ". . . .");
+}
+
+TEST_F(NewPuzzleTest, IsNumberedInTheTitleFrom1AgainAfterTheLargestNumber) {
+  game.state.PuzzleNo = 32766;
+  click(form.NewPuz);
+  EXPECT_EQ(form.caption(), "Puzzle Number  32767");
+  click(form.NewPuz);
+  EXPECT_EQ(form.caption(), "Puzzle Number  1");
+}
+
+TEST_F(NewPuzzleTest, IsInPlayAfterOneThatIsOver) {
+  choose("Show Solution");
+  click(form.NewPuz);
+  EXPECT_TRUE(form.RightMess.Visible());
+  press(17);
+  EXPECT_EQ(caption(17), "1");
+}
+
+TEST_F(NewPuzzleTest, StartASolutionFillsTheBoardAtRandomAndGoesOn) {
+  choose("Show Solution");
+  nextDigits = "9129315941199999";  // four to a row: the results are worked out instead
+  choose("Start a Solution");
+  EXPECT_EQ(grid(),
+            "7 + 1 + 2 = ?\n"
+            "+ # + # + # +\n"
+            "3 + 1 + 5 = 9\n"
+            "+ # + # + # +\n"
+            "4 + 1 + 1 = 6\n"
+            "= # = # = # =\n"
+            "? + 3 + 8 = ?\n");
+  EXPECT_EQ(corners(), ":) 1 3 8");
+}
+
+}  // namespace tessoro::test

@@ -1,0 +1,41 @@
+#include <cmath>
+
+#include "fixture.h"
+
+namespace tessoro::test {
+
+struct SearchTest : GameTest {
+  /// Makes a puzzle and chooses the command while the search is under way.
+  void chooseWhileSearching(const std::string& command) {
+    desktop.onYield = [this, command] { choose(command); };
+    click(form.NewPuz);
+  }
+};
+
+TEST_F(SearchTest, HelpOpensWhileItRuns) {
+  chooseWhileSearching("Help");
+  EXPECT_EQ(desktop.opened.at(0), "Puzzle Number  2");
+  EXPECT_EQ(desktop.opened.at(1), "qaviro.hlp");
+}
+
+TEST_F(SearchTest, ProgramEndsInTheMiddleOfIt) {
+  EXPECT_THROW(chooseWhileSearching("Exit"), ProgramEnded);
+  EXPECT_THROW(form.unload(), ProgramEnded);
+}
+
+/// Nothing but the clock is random, so every run draws the same digits.
+TEST_F(SearchTest, DigitsHaveTheirSharesWhetherTheClockRunsStandsJumpsOrGoesBack) {
+  for (const double tick : {1e-6, 0.0, 0.125, -3.5}) {
+    desktop.tick = tick;
+    ReseededDigits digits(desktop);
+    std::array<int, 10> counts{};
+    for (int i = 0; i < 324000; ++i) ++counts.at(digits.draw());
+    constexpr std::array<int, 10> share{0, 1, 2, 2, 2, 2, 2, 2, 2, 3};  // of 18
+    for (int digit = 0; digit < 10; ++digit) {
+      const int expected = 18000 * share[digit];
+      EXPECT_NEAR(counts[digit], expected, 4 * std::sqrt(expected)) << digit << ", tick " << tick;
+    }
+  }
+}
+
+}  // namespace tessoro::test
