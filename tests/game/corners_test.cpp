@@ -17,10 +17,4 @@ TEST_F(CornersTest, FourRightOnesEndThePuzzle) {
   EXPECT_EQ(caption(33), "2") << "no move is taken any more";
 }
 
-TEST_F(CornersTest, NoneIsRightWithoutAPuzzle) {
-  game.state.SolNumbers.fill("");  // as after a search that never came to them
-  press(17);
-  EXPECT_EQ(corners(), "7 1 3 8");
-}
-
 }  // namespace tessoro::test

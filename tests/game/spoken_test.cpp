@@ -20,19 +20,6 @@ TEST_F(SpokenTest, ShownSolutionAndTheEndAreSaid) {
                                "The puzzle is over", "The puzzle is over"}));
 }
 
-TEST_F(SpokenTest, StatingAPuzzleIsSaidStepByStep) {
-  choose("Set a Puzzle for computer to solve");
-  press(3);
-  type(43, 't');
-  choose("End computer solution mode");
-  EXPECT_EQ(desktop.said,
-            (Log{"Set each corner to its number, then press Solve Puzzle",
-                 "Only corners are set in this mode",
-                 "Corners: top left not set, top right not set, bottom left not set, bottom right "
-                 "not set",
-                 "Back from setting puzzles. Press New Puzzle to play on"}));
-}
-
 /// What is heard on a key in the middle of a puzzle:
 ///
 ///     7 - 7 + 1 = 1

@@ -6,121 +6,148 @@
 
 namespace tessoro::test {
 
-/// The window by what is on its screen, and by what its controls say should be there.
-struct PictureTest : WindowTest {
-  double scale = view.devicePixelRatioF();
+/// The picture that the controls of a form describe, drawn here a second time: plainly, everything
+/// from back to front.
+class Picture {
+ public:
+  /// `shown` is what the screen has, `scale` its pixels to 15 twips.
+  Picture(const QImage& shown, double scale, const QPalette& palette)
+      : shown_(shown), expected_(shown), painter_(&expected_), scale_(scale), palette_(palette) {
+    painter_.fillRect(shown.rect(), colour(platform::buttonFace));
+  }
 
-  /// A rectangle of the client area in pixels of the screen.
-  QRect pixels(const QRect& it) const {
-    return {it.topLeft() * scale, (it.bottomRight() + QPoint(1, 1)) * scale - QPoint(1, 1)};
+  void draw(const platform::Controls& controls, QPoint holder = {}) {
+    const auto drawVisible = [&](const auto* control) {
+      const platform::Place& it = control->place;
+      const QRect place(holder + QPoint(it.left, it.top), QSize(it.width, it.height));
+      if (control->Visible()) draw(*control, place, pixels(place));
+    };
+    for (const auto& control : controls) std::visit(drawVisible, control);
   }
-  /// The client area as it has been painted, bit by bit, on the screen.
-  QImage screen(const QWidget& client) const {
-    QEvent now(QEvent::UpdateRequest);  // which the toolkit would send some milliseconds later
-    QApplication::sendEvent(client.window(), &now);
-    const auto& all = dynamic_cast<QImage&>(*client.backingStore()->paintDevice());
-    const QPoint origin = client.mapTo(client.window(), QPoint()) * scale;
-    QImage image = all.copy({origin, QPoint(all.width(), all.height()) - QPoint(1, 1)});
-    image.setDevicePixelRatio(1);
-    return image;
-  }
-  /// Where the screen first differs from what the controls say, with or without a ring around the
-  /// focus, in device-independent pixels; empty if it does not.
-  QString fault(bool ring) { return fault(game.form, view, ring); }
-  QString fault(const platform::Form& form, const QWidget& client, bool ring) {
-    shown_ = screen(client);
-    QImage expected = shown_;
-    QPainter painter(&expected);
-    painter.fillRect(shown_.rect(), colour(platform::buttonFace));
-    for (const auto& it : form.controls) drawAt({}, it, painter);
-    const int line = qRound(scale);
-    QRect rect = ring ? pixels(QApplication::focusWidget()->geometry()) : QRect();
+  /// Draws a bright line between two dark ones, just inside the edges of a place in twips.
+  void drawRing(const QRect& place) {
+    QRect rect = pixels(place);
+    const int line = qRound(scale_);
     for (const QColor it : {Qt::black, Qt::yellow, Qt::yellow, Qt::black}) {
-      if (ring) outline(painter, rect, line, it);
+      outline(rect, line, it);
       rect -= QMargins(line, line, line, line);
     }
-    if (shown_ == expected) return "";
+  }
+  /// Where the screen first differs and how; empty if it does not.
+  QString difference() const {
+    if (shown_ == expected_) return "";
     QPoint at;
-    for (int i = 0; shown_.pixel(at) == expected.pixel(at); ++i)
+    for (int i = 0; shown_.pixel(at) == expected_.pixel(at); ++i)
       at = {i % shown_.width(), i / shown_.width()};
-    return QDebug::toString(at / scale);
+    return QDebug::toString(at) + " is " + shown_.pixelColor(at).name() + ", not " +
+           expected_.pixelColor(at).name();
   }
 
  private:
   QImage shown_;
+  QImage expected_;
+  QPainter painter_;
+  double scale_;
+  QPalette palette_;
+  int border_ = static_cast<int>(scale_);
 
-  static QRect rectOf(const platform::Place& it) {
-    return {QPoint(it.left, it.top) / 15, QSize(it.width, it.height) / 15};
+  QRect pixels(const QRect& twips) const {
+    const auto edge = [this](int at) { return qRound(at / 15.0 * scale_); };
+    const QPoint end(edge(twips.x() + twips.width()), edge(twips.y() + twips.height()));
+    return {QPoint(edge(twips.x()), edge(twips.y())), end - QPoint(1, 1)};
   }
   QColor colour(platform::Colour it) const {
     constexpr std::array roles{QPalette::WindowText, QPalette::Button, QPalette::Light,
                                QPalette::Dark};
-    if (it.value >> 31 != 0) return view.palette().color(QPalette::Active, roles[it.value & 3]);
-    const auto part = [&](unsigned shift) { return static_cast<int>(it.value >> shift & 255); };
-    return {part(0), part(8), part(16)};
+    if (it.value >> 31 != 0) return palette_.color(QPalette::Active, roles[it.value & 3]);
+    return {qBlue(it.value), qGreen(it.value), qRed(it.value)};  // red is the lowest byte here
   }
-  static void outline(QPainter& painter, const QRect& rect, int width, const QColor& colour) {
-    const QRect inside = rect - QMargins(width, width, width, width);
-    for (const QRect& edge : QRegion(rect) - inside) painter.fillRect(edge, colour);
+  void outline(const QRect& rect, int width, const QColor& ink) {
+    for (const QRect& edge : QRegion(rect) - (rect - QMargins(width, width, width, width)))
+      painter_.fillRect(edge, ink);
   }
-  void write(QPainter& painter, const QRect& rect, const std::string& text, platform::Font font,
-             const QColor& ink) const {
+  void write(const QRect& rect, const std::string& text, const platform::Font& font, QColor ink) {
     QFont own(font.name == "Arial" ? "Liberation Sans" : QApplication::font().family());
-    own.setPointSizeF(font.points * scale * 96 / view.logicalDpiY());
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    own.setPointSizeF(font.points * scale_ * 96 / screen->logicalDotsPerInchY());
     own.setBold(font.bold);
-    painter.setFont(own);
-    painter.setPen(ink);
-    painter.drawText(rect, Qt::AlignCenter, QString::fromStdString(text));
+    painter_.setFont(own);
+    painter_.setPen(ink);
+    painter_.drawText(rect, Qt::AlignCenter, QString::fromStdString(text));
   }
-  void drawAt(QPoint start, const platform::ControlRef& control, QPainter& painter) const {
-    const int line = static_cast<int>(scale);
-    const auto drawOne = [&](const auto& it) {
-      if (!it.Visible()) return;
-      using Kind = std::remove_cvref_t<decltype(it)>;
-      const QRect place = rectOf(it.place).translated(start);
-      const QRect rect = pixels(place);
-      if constexpr (std::is_same_v<Kind, Cell>) {
-        painter.fillRect(rect, colour(it.borderbottom));
-        painter.fillRect(rect.adjusted(0, 0, 0, -line), colour(it.borderright));
-        painter.fillRect(rect.adjusted(0, 0, -line, -line), colour(it.borderleft));
-        painter.fillRect(rect.adjusted(line, 0, -line, -line), colour(it.bordertop));
-        painter.fillRect(rect - QMargins(line, line, line, line), colour(it.backcolor()));
-        QColor ink = colour(it.forecolor());
-        if (it.isButton() && !it.enabled()) {  // two fifths of the way to the background
-          const QColor back = colour(it.backcolor());
-          ink = {(ink.red() * 3 + back.red() * 2) / 5, (ink.green() * 3 + back.green() * 2) / 5,
-                 (ink.blue() * 3 + back.blue() * 2) / 5};
-        }
-        write(painter, rect, it.caption(), {it.font, it.fontsize, it.fontbold}, ink);
-      } else if constexpr (std::is_same_v<Kind, platform::Label>) {
-        painter.fillRect(rect, colour(it.backcolor));
-        write(painter, rect, it.caption(), it.font, colour(it.forecolor));
-      } else if constexpr (std::is_same_v<Kind, platform::PictureBox>) {
-        painter.fillRect(rect, colour(platform::buttonFace));
-        QImage face(32, 32, QImage::Format_ARGB32);
-        bool opaque = false;
-        face.fill(Qt::transparent);
-        for (int i = 0; i < 32 * 32; ++i) {
-          const uint index = QString(it.picture->rows[i / 32][i % 32]).toUInt(&opaque, 16);
-          if (opaque) face.setPixelColor(i % 32, i / 32, colour(platform::palette[index]));
-        }
-        const int larger = 32 * static_cast<int>(std::ceil(scale));
-        QRect middle(QPoint(), QSize(32, 32) * scale);
-        middle.moveCenter(rect.center());
-        painter.drawImage(
-            middle, face.scaled(larger, larger)
-                        .scaled(middle.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-      } else if constexpr (std::is_same_v<Kind, platform::Frame>) {
-        outline(painter, rect.adjusted(line, line, 0, 0), line, colour(platform::highlight3D));
-        outline(painter, rect.adjusted(0, 0, -line, -line), line, colour(platform::shadow3D));
-        for (const auto& inner : it.controls) drawAt(place.topLeft(), inner, painter);
-      } else {  // what the toolkit draws; text stands in the middle of an empty rim
-        constexpr int rim = std::is_same_v<Kind, platform::TextBox> ? 12 : 0;
-        const QRect own = rect - QMargins(rim, rim, rim, rim) * scale;
-        painter.drawImage(own, shown_, own);
-      }
-    };
-    std::visit([&](const auto* it) { drawOne(*it); }, control);
+
+  void draw(const Cell& cell, const QRect& /*place*/, const QRect& rect) {
+    const int line = border_;
+    painter_.fillRect(rect, colour(cell.borderbottom));
+    painter_.fillRect(rect.adjusted(0, 0, 0, -line), colour(cell.borderright));
+    painter_.fillRect(rect.adjusted(0, 0, -line, -line), colour(cell.borderleft));
+    painter_.fillRect(rect.adjusted(line, 0, -line, -line), colour(cell.bordertop));
+    const QColor back = colour(cell.backcolor());
+    painter_.fillRect(rect.adjusted(line, line, -line, -line), back);
+    QColor ink = colour(cell.forecolor());
+    if (cell.isButton() && !cell.enabled())  // two fifths of the way to the background
+      ink = {(ink.red() * 3 + back.red() * 2) / 5, (ink.green() * 3 + back.green() * 2) / 5,
+             (ink.blue() * 3 + back.blue() * 2) / 5};
+    write(rect, cell.caption(), {cell.font, cell.fontsize, cell.fontbold}, ink);
+  }
+  void draw(const platform::Label& label, const QRect& /*place*/, const QRect& rect) {
+    painter_.fillRect(rect, colour(label.backcolor));
+    write(rect, label.caption(), label.font, colour(label.forecolor));
+  }
+  void draw(const platform::PictureBox& box, const QRect& /*place*/, const QRect& rect) {
+    painter_.fillRect(rect, colour(platform::buttonFace));
+    QImage image(32, 32, QImage::Format_ARGB32);
+    image.fill(Qt::transparent);
+    for (int i = 0; i < 32 * 32; ++i) {
+      bool opaque = false;
+      const uint index = QString(box.picture->rows[i / 32][i % 32]).toUInt(&opaque, 16);
+      if (opaque) image.setPixelColor(i % 32, i / 32, colour(platform::palette[index]));
+    }
+    const int larger = 32 * qCeil(scale_);
+    QRect middle(QPoint(), QSize(32, 32) * scale_);
+    middle.moveCenter(rect.center());
+    image = image.scaled(larger, larger)
+                .scaled(middle.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter_.drawImage(middle, image);
+  }
+  void draw(const platform::Frame& frame, const QRect& place, const QRect& rect) {
+    const int line = border_;
+    outline(rect.adjusted(line, line, 0, 0), line, colour(platform::highlight3D));
+    outline(rect.adjusted(0, 0, -line, -line), line, colour(platform::shadow3D));
+    draw(frame.controls, place.topLeft());
+  }
+  /// Text boxes and buttons are drawn by Qt, which stays within their places.
+  void draw(const auto& /*control*/, const QRect& /*place*/, const QRect& rect) {
+    painter_.drawImage(rect, shown_, rect);
+  }
+};
+
+struct PictureTest : WindowTest {
+  /// The client area as the screen has it, pixel by pixel.
+  static QImage screen(const QWidget& client) {
+    QEvent now(QEvent::UpdateRequest);  // Qt sends it some milliseconds later
+    QApplication::sendEvent(client.window(), &now);
+    const auto& all = dynamic_cast<QImage&>(*client.backingStore()->paintDevice());
+    const double scale = client.devicePixelRatioF();
+    const QPoint origin = client.mapTo(client.window(), QPoint()) * scale;
+    QImage image = all.copy({origin, client.size() * scale});
+    image.setDevicePixelRatio(1);
+    return image;
+  }
+  /// Where the screen differs from the picture that the form's controls describe, with the focus
+  /// ring around one of them or without; empty if it does not.
+  QString difference(const platform::Form& form, const QWidget& client,
+                     const platform::Control* ringed = nullptr) const {
+    Picture picture(screen(client), client.devicePixelRatioF() * zoom(), client.palette());
+    picture.draw(form.controls);
+    if (ringed != nullptr) {
+      const platform::Place& it = ringed->place;
+      picture.drawRing({60 + it.left, 60 + it.top, it.width, it.height});
+    }
+    return picture.difference();
+  }
+  QString difference(const platform::Control* ringed = nullptr) const {
+    return difference(game.form, view, ringed);
   }
 };
 

@@ -13,97 +13,137 @@
 #include "qt/form_window.h"
 
 inline void PrintTo(const QString& text, std::ostream* out) {
-  *out << text.toStdString();
+  *out << '"' << text.toStdString() << '"';
 }
 
 namespace tessoro::test {
 
-/// The one desktop of the test program: the toolkit allows one application object in a process.
-inline qt::QtDesktop* theDesktop = nullptr;
+inline char* programPath = nullptr;
 
-/// The game in a real window of the toolkit.
+/// The digits of a known puzzle, whose corners are 7, 1, 3 and 8; after that, random ones.
+struct KnownDigits final : Digits {
+  explicit KnownDigits(platform::Desktop& desktop) : random(desktop) {}
+  int draw() override { return next < 9 ? "771534952"[next++] - '0' : random.draw(); }
+
+  ReseededDigits random;
+  int next = 0;
+};
+
+/// A modal box as the player meets it.
+struct Box {
+  QWidget& widget;
+
+  QLabel* label() const {
+    for (auto* it : widget.findChildren<QLabel*>())
+      if (!it->text().isEmpty()) return it;
+    return nullptr;
+  }
+  /// OK, or Yes.
+  QPushButton* firstButton() const { return widget.findChild<QPushButton*>(); }
+};
+
+/// Names a row of a table of tests.
+template <typename Row>
+std::string nameOf(const testing::TestParamInfo<Row>& row) {
+  return row.param.name;
+}
+
+/// The program in a window, started as main() starts it: the first puzzle is there before the
+/// window is. Each test has a desktop of its own, whose keyboard has no key down.
 struct WindowTest : testing::Test {
-  ReseededDigits digits{*theDesktop};
-  Game game{*theDesktop, digits};
-  qt::FormWindow& window = theDesktop->show(game.form, "Welcome");
+  qt::QtDesktop desktop{programPath, program()};
+  KnownDigits digits{desktop};
+  Game game{desktop, digits};
+  qt::FormWindow& window = start();
   qt::FormView& view = window.view();
-  std::map<QString, QAction*> menu;  ///< its commands by the captions that they have at first
-  std::vector<QString> messages;
-  /// Works the modal box that has come up; as it stands, answers a message with OK or Yes.
-  std::function<void(QWidget*)> onModal = [this](QWidget* modal) {
-    auto* box = dynamic_cast<QMessageBox*>(modal);
-    messages.push_back(box->windowTitle() + ": " + box->text());
-    EXPECT_EQ(box->buttons().size(), 1 + box->text().contains(QRegularExpression("^Print|[?]$")));
-    EXPECT_EQ(box->defaultButton(), box->buttons().first());
-    EXPECT_GE(box->width(), 206) << "has room for its title";
-    const auto flags = Qt::WindowTitleHint | Qt::WindowCloseButtonHint;
-    EXPECT_EQ(box->windowFlags() & (Qt::WindowType_Mask | flags), Qt::Dialog | flags);
-    box->buttons().first()->click();
-  };
+  QStringList boxes;  ///< the texts of the boxes that have come up
+  /// Works the modal box that has come up.
+  std::function<void(Box)> onBox = [](Box box) { box.firstButton()->click(); };
+  ulong time = 1000;  ///< of the keyboard, milliseconds
   QTimer watch;
 
   WindowTest() {
+    desktop.keyGuard().clock = [this] { return static_cast<qint64>(time); };
     QTimer::connect(&watch, &QTimer::timeout, [this] {
+      QWidget* modal = QApplication::activeModalWidget();
+      if (modal == nullptr) return;
       watch.stop();
-      if (QWidget* modal = QApplication::activeModalWidget()) onModal(modal);
+      settle();  // until it is active
+      const QLabel* label = Box{*modal}.label();
+      boxes += label == nullptr ? "" : label->text();
+      onBox({*modal});
       watch.start();
     });
     watch.start(1);
-    for (QAction* it : window.findChild<QMenu*>()->actions()) menu[it->text()] = it;
-    game.startUp.Form_Load();
     settle();
   }
-  ~WindowTest() override {
-    theDesktop->close();
-    // Nobody listens any more.
-    for (auto* it : {&game.form.caption, &game.form.SolveMx.caption, &cell(17).caption}) *it = "!";
-    cell(17).SetFocus();
+  ~WindowTest() override { desktop.close(); }
+  qt::FormWindow& start() {
+    game.startUp.Form_Load();
+    return desktop.show(game.form, game.narrator.firstPuzzle());
   }
-
   /// Has all events processed, also those that others bring about.
   static void settle() {
     for (int round = 0; round < 3; ++round) QApplication::processEvents();
   }
+
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
-  const std::string& caption(int index) { return cell(index).caption(); }
-  /// The middle of a control in the client area, where the frame begins at (4, 4).
-  static QPoint middleOf(const platform::Control& control) {
-    const platform::Place& place = control.place;
-    return {4 + (place.left + place.width / 2) / 15, 4 + (place.top + place.height / 2) / 15};
+  QString caption(int index) { return QString::fromStdString(cell(index).caption()); }
+  double zoom() const { return qRound(view.width() / 302.4 * 4) / 4.0; }
+  /// Where a control of the frame, which begins at (60, 60) twips, lies in the client area.
+  QRect rectOf(const platform::Control& control) const {
+    const auto edge = [this](int twips) { return qRound((60 + twips) / 15.0 * zoom()); };
+    const auto& [left, top, width, height] = control.place;
+    const QPoint end(edge(left + width), edge(top + height));
+    return {QPoint(edge(left), edge(top)), end - QPoint(1, 1)};
   }
-  /// The grid's cell at a place of the client area; 0 for none, and near the edges, where a
-  /// neighbour or a face may lie over it.
-  int cellAt(QPoint at) {
+  /// The control of the frame that has the focus, if any has.
+  const platform::Control* focused() const {
+    if (QApplication::focusWidget() == nullptr) return nullptr;
+    for (const auto& it : game.form.Frame1.controls) {
+      const auto* control = std::visit([](auto* own) -> platform::Control* { return own; }, it);
+      const QRect place = QApplication::focusWidget()->geometry();
+      if (control->Visible() && rectOf(*control) == place) return control;
+    }
+    return nullptr;
+  }
+  /// The cell of the grid that has the focus; 0 where it is beside the grid.
+  int focusedCell() {
     int index = gridCells;
-    const QRect place(-12, -12, 24, 24);
-    while (index > 0 && !place.contains(at - middleOf(cell(index)))) --index;
+    while (index > 0 && &cell(index) != focused()) --index;
     return index;
   }
-  int focusedCell() { return cellAt(QApplication::focusWidget()->geometry().center()); }
-  QPoint inWindow(const platform::Control& control) const {
-    return view.mapTo(&window, middleOf(control));
+
+  void click(QPoint at, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(window.windowHandle(), button, {}, view.mapTo(&window, at));
   }
-  void click(const platform::Control& control) {
-    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, inWindow(control));
-  }
-  /// Presses and releases a key in the window with the focus, each at a time of its own.
-  void key(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) const {
-    static ulong time = 0;
+  void click(const platform::Control& control) { click(rectOf(control).center()); }
+  void send(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
     settle();
     const QWidget* active = QApplication::activeWindow();
     QWindow* to = (active == nullptr ? &window : active)->windowHandle();
-    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-      QApplication::postEvent(to, new QEvent(QEvent::User));  // something always goes on
-      QWindowSystemInterface::handleKeyEvent(to, ++time, type, key, modifiers, text);
-      settle();
-    }
+    QWindowSystemInterface::handleKeyEvent(to, time, type, key, modifiers, text);
+    settle();
   }
-  void type(const QString& characters) const {
+  void press(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+    ++time;
+    send(QEvent::KeyPress, key, modifiers, text);
+  }
+  void release(int key, Qt::KeyboardModifiers modifiers = {}) {
+    ++time;
+    send(QEvent::KeyRelease, key, modifiers, {});
+  }
+  void tap(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
+    press(key, modifiers, text);
+    release(key, modifiers);
+  }
+  void type(const QString& characters) {
     for (const QChar it : characters)
-      key(it.toUpper().unicode(), it.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, it);
+      tap(it.toUpper().unicode(), it.isUpper() ? Qt::ShiftModifier : Qt::NoModifier, it);
   }
-  void choose(const QString& command) {
-    menu.at(command)->trigger();
+  void choose(const QString& command) const {
+    for (QAction* it : window.findChild<QMenu*>()->actions())
+      if (it->text() == command) it->trigger();
     settle();
   }
 };

@@ -1,0 +1,52 @@
+#include "app/about_form.h"
+#include "client.h"
+
+namespace tessoro::test {
+
+struct AboutTest : ClientTest {
+  /// Opens About and returns whether it is still open after `then`.
+  bool staysOpen(const std::function<void(Box)>& then) {
+    bool open = false;
+    onBox = [&](Box box) {
+      then(box);
+      open = box.widget.isVisible();
+      box.widget.close();
+    };
+    choose("About");
+    return open;
+  }
+};
+
+TEST_F(AboutTest, ShowsItsControlsAsLargeAsTheWindowDoes) {
+  for (const QSize size : {QSize(317, 97), QSize(396, 121)}) {
+    staysOpen([&](Box box) {
+      EXPECT_EQ(box.widget.maximumSize(), size);
+      const auto* text = box.widget.findChild<QTextEdit*>();
+      EXPECT_EQ(difference(AboutForm(), *text->parentWidget()), "");
+    });
+    tap(Qt::Key_Plus, Qt::ControlModifier);
+  }
+}
+
+TEST_F(AboutTest, BoardBehindHasNoRing) {
+  tap(Qt::Key_Tab);
+  staysOpen([&](Box) { EXPECT_EQ(difference(), ""); });
+}
+
+TEST_F(AboutTest, IsReadOut) {
+  staysOpen([&](Box box) {
+    const QString read =
+        qt::hasAnnouncements ? said().value(0) : box.widget.accessibleDescription();
+    EXPECT_TRUE(read.endsWith("Tessoro developers. tessoro@example.org. Version 1.0"))
+        << read.toStdString();
+  });
+}
+
+TEST_F(AboutTest, ClosesByAnyMouseButtonOverItsText) {
+  EXPECT_FALSE(staysOpen([&](Box box) {
+    QTest::mousePress(box.widget.windowHandle(), Qt::RightButton, {}, {100, 30});
+  }));
+  QTest::mouseRelease(window.windowHandle(), Qt::RightButton);
+}
+
+}  // namespace tessoro::test

@@ -1,0 +1,37 @@
+#include "picture.h"
+
+namespace tessoro::test {
+
+/// These, the zoom and the random player run again at other scale factors.
+using AppearanceTest = PictureTest;
+
+TEST_F(AppearanceTest, ControlsLookAsTheyDescribeThemselves) {
+  click(cell(17));
+  cell(17).borderleft = platform::palette[9];
+  cell(17).borderright = platform::palette[12];
+  game.form.Solveit.Visible = true;  // disabled, and in front of the other
+  settle();
+  EXPECT_EQ(difference(), "");
+}
+
+TEST_F(AppearanceTest, TextIsNoFainterBehindABox) {
+  QPalette theme = window.palette();
+  theme.setColor(QPalette::Inactive, QPalette::WindowText, Qt::red);
+  window.setPalette(theme);
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  settle();
+  EXPECT_EQ(difference(), "");
+}
+
+TEST_F(AppearanceTest, BordersStandOutWhereTheThemesOwnDoNot) {
+  QPalette theme{QColor(0x9390ec)};
+  theme.setColor(QPalette::Light, 0x9592ee);
+  theme.setColor(QPalette::Dark, 0x8582de);
+  window.setPalette(theme);
+  const QPoint top(147, rectOf(game.form.NewPuz).top());
+  EXPECT_EQ(screen(view).pixelColor(top * view.devicePixelRatioF()), QColor(0xa29fee));
+}
+
+}  // namespace tessoro::test

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include "picture.h"
+
+namespace tessoro::test {
+
+/// An accessibility client, such as a screen reader. It asks for a name or a state only when it is
+/// told that there is a new one.
+class Client {
+ public:
+  explicit Client(QWidget& view) : window_(QAccessible::queryAccessibleInterface(&view)) {
+    listening = this;
+    QAccessible::installUpdateHandler(hear);
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(true);
+    for (auto* it : controls()) known_[it->object()] = {nameOf(it), isDisabled(it)};
+  }
+  ~Client() {
+    QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(false);
+    QAccessible::installUpdateHandler(nullptr);
+  }
+
+  QList<QAccessibleInterface*> controls() const {
+    QList<QAccessibleInterface*> all;
+    for (int i = 0; i < window_->childCount(); ++i) all += window_->child(i);
+    return all;
+  }
+  /// What is found at a place of the client area.
+  QAccessibleInterface* at(QPoint place) const {
+    const QPoint it = window_->rect().topLeft() + place;
+    return window_->childAt(it.x(), it.y());
+  }
+  /// The sentences spoken since the last call.
+  QStringList said() { return std::exchange(sentences_, {}); }
+  /// The names that events of this type have been about since the last call.
+  QStringList told(QAccessible::Event type) { return std::exchange(events_[type], {}); }
+  /// What the client believes of a visible control that is not so; empty if there is nothing.
+  QString mistake() const {
+    for (auto* it : controls()) {
+      const auto [name, wasDisabled] = known_.value(it->object());
+      if (it->state().invisible) continue;
+      if (name != nameOf(it)) return name;
+      if (wasDisabled != isDisabled(it)) return name + (wasDisabled ? ", disabled" : ", enabled");
+    }
+    return "";
+  }
+
+ private:
+  static inline Client* listening = nullptr;
+  QAccessibleInterface* window_;
+  QStringList sentences_;
+  QMap<int, QStringList> events_;
+  QMap<QObject*, std::pair<QString, bool>> known_;  ///< the names, and whether it is disabled
+
+  static QString nameOf(QAccessibleInterface* it) { return it->text(QAccessible::Name); }
+  static bool isDisabled(QAccessibleInterface* it) { return it->state().disabled; }
+  static void hear(QAccessibleEvent* event) {
+    // Nobody asks a widget for anything while it is destroyed.
+    if (event->type() == QAccessible::ObjectDestroyed) return;
+    if (auto* source = event->accessibleInterface()) listening->hear(*event, source);
+  }
+  void hear(QAccessibleEvent& event, QAccessibleInterface* source) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    if (const auto* announcement = dynamic_cast<QAccessibleAnnouncementEvent*>(&event))
+      return sentences_.append(announcement->message());
+#endif
+    const bool isShown = event.type() == QAccessible::ObjectShow;
+    if (source->role() == QAccessible::Notification) {
+      if (isShown && !nameOf(source).isEmpty()) sentences_ += nameOf(source);
+      return;
+    }
+    const auto* change = dynamic_cast<QAccessibleStateChangeEvent*>(&event);
+    if (change != nullptr && !change->changedStates().disabled) return;
+    events_[event.type()] += nameOf(source);
+    auto& [name, wasDisabled] = known_[source->object()];
+    if (change == nullptr) name = nameOf(source);
+    if (change != nullptr || isShown) wasDisabled = isDisabled(source);
+  }
+};
+
+/// The game as it is met through a screen reader, which has heard the greeting.
+struct ClientTest : PictureTest {
+  Client client{view};
+  const QStringList greeting = said();
+
+  QStringList said() {
+    settle();
+    return client.said();
+  }
+  QAccessibleInterface* at(const platform::Control& control) const {
+    return client.at(rectOf(control).center());
+  }
+  void act(const platform::Control& control, const QString& action) const {
+    at(control)->actionInterface()->doAction(action);
+    settle();
+  }
+};
+
+}  // namespace tessoro::test

@@ -1,0 +1,76 @@
+#include "window_fixture.h"
+
+namespace tessoro::test {
+
+struct KeyGuardTest : WindowTest {
+  /// As an X server sends it: release and press carry the same time stamp.
+  void repeat(int key) {
+    release(key);
+    send(QEvent::KeyPress, key, {}, {});
+  }
+  void waitUntilBoxTakesKeys() { time += 500; }
+  /// Opens a message box and returns whether it is still open after `then`.
+  bool boxStaysOpen(const std::function<void()>& then) {
+    bool open = false;
+    onBox = [&](Box box) {
+      then();
+      open = box.widget.isVisible();
+      box.widget.close();
+    };
+    desktop.messageBox("Well ?", platform::Desktop::Buttons::yesNo);
+    return open;
+  }
+};
+
+TEST_F(KeyGuardTest, HeldKeyPressesOnce) {
+  cell(17).SetFocus();
+  press(Qt::Key_Space);
+  repeat(Qt::Key_Space);
+  repeat(Qt::Key_Space);
+  EXPECT_EQ(caption(17), "1");
+}
+
+TEST_F(KeyGuardTest, HeldArrowGoesOn) {
+  cell(15).SetFocus();
+  press(Qt::Key_Right);
+  repeat(Qt::Key_Right);
+  repeat(Qt::Key_Right);
+  EXPECT_EQ(focusedCell(), 18);
+}
+
+TEST_F(KeyGuardTest, BoxIgnoresKeysForHalfASecond) {
+  EXPECT_TRUE(boxStaysOpen([&] { tap(Qt::Key_Return); }));
+}
+
+TEST_F(KeyGuardTest, BoxTakesAKeyAfterHalfASecond) {
+  EXPECT_FALSE(boxStaysOpen([&] {
+    waitUntilBoxTakesKeys();
+    tap(Qt::Key_Return);
+  }));
+}
+
+TEST_F(KeyGuardTest, BoxIgnoresAKeyHeldSinceBefore) {
+  press(Qt::Key_Return);
+  EXPECT_TRUE(boxStaysOpen([&] {
+    waitUntilBoxTakesKeys();
+    repeat(Qt::Key_Return);
+  }));
+}
+
+TEST_F(KeyGuardTest, BoxIgnoresAKeyWhileAnotherIsHeldSinceBefore) {
+  press(Qt::Key_J);
+  EXPECT_TRUE(boxStaysOpen([&] {
+    waitUntilBoxTakesKeys();
+    tap(Qt::Key_Return);
+  }));
+}
+
+TEST_F(KeyGuardTest, KeyReleasedUnnoticedCountsAsHeldForASecond) {
+  press(Qt::Key_J);
+  EXPECT_FALSE(boxStaysOpen([&] {
+    time += 1000;
+    tap(Qt::Key_Return);
+  }));
+}
+
+}  // namespace tessoro::test

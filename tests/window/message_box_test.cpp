@@ -1,0 +1,57 @@
+#include "client.h"
+
+namespace tessoro::test {
+
+using Answer = platform::Desktop::Answer;
+using Buttons = platform::Desktop::Buttons;
+
+struct MessageBoxTest : ClientTest {
+  Answer show(Buttons buttons, const std::function<void(Box)>& then) {
+    onBox = then;
+    return desktop.messageBox("Well ?", buttons);
+  }
+};
+
+TEST_F(MessageBoxTest, ClosingAnswersNo) {
+  EXPECT_EQ(show(Buttons::yesNo, [](Box box) { box.widget.close(); }), Answer::no);
+}
+
+TEST_F(MessageBoxTest, MinimisingClosesIt) {
+  EXPECT_EQ(show(Buttons::yesNo, [](Box box) { box.widget.showMinimized(); }), Answer::no);
+}
+
+TEST_F(MessageBoxTest, LastMoveIsReadWithTheBoxAndNotBesideIt) {
+  QString read;
+  onBox = [&](Box box) {
+    read = box.label()->accessibleName();
+    box.firstButton()->click();
+  };
+  for (int k = 1; k <= 16 && boxes.isEmpty(); ++k) {
+    cell(numberCells[k]).SetFocus();
+    type(QString::fromStdString(game.state.SolNumbers[k]).trimmed());
+    cell(operatorCells[k]).SetFocus();
+    said();
+    type(QString::fromStdString(game.state.SolOperators[k]));
+  }
+  EXPECT_TRUE(read.endsWith("bottom right is correct. You got it !")) << read.toStdString();
+  EXPECT_EQ(said(), QStringList());
+}
+
+TEST_F(MessageBoxTest, ClientCanNeitherPressNorChooseBehindIt) {
+  show(Buttons::ok, [&](Box box) {
+    act(cell(17), "Press");
+    choose("Set a Puzzle for computer to solve");
+    box.firstButton()->click();
+  });
+  EXPECT_EQ(caption(17), "");
+  EXPECT_FALSE(game.state.SolveMode);
+}
+
+TEST_F(MessageBoxTest, ScreenReaderTakesInTheKeyBeforeItComesUp) {
+  bool isUp = true;
+  QTimer::singleShot(50, [&] { isUp = QApplication::activeModalWidget() != nullptr; });  // of 100
+  desktop.messageBox("Well ?", Buttons::ok);
+  EXPECT_FALSE(isUp);
+}
+
+}  // namespace tessoro::test

@@ -1,0 +1,104 @@
+#include "qt/qt_printer.h"
+
+#include "window_fixture.h"
+
+namespace tessoro::test {
+
+/// Printing where there is no printer. The folder where the program starts is the user's home.
+struct PrintTest : WindowTest {
+  QDir folder{QString(qgetenv("HOME"))};
+  QString saveAs;   ///< what the user names the file, if he does not cancel
+  QString offered;  ///< the name that the dialog has at first
+
+  PrintTest() {
+    folder.removeRecursively();
+    folder.mkpath(".");
+    QDir::setCurrent(folder.path());
+    onBox = [this](Box box) {
+      EXPECT_EQ(box.widget.windowModality(), Qt::WindowModal);
+      if (auto* dialog = dynamic_cast<QFileDialog*>(&box.widget)) return answer(*dialog);
+      for (auto* it : box.widget.findChildren<QPushButton*>())
+        if (it->isDefault() || it->text() == "Cancel") return it->click();
+    };
+  }
+  void answer(QFileDialog& dialog) {
+    dialog.findChild<QLineEdit*>()->setText(saveAs);
+    // After one answer, the user cancels.
+    QMetaObject::invokeMethod(&dialog, std::exchange(saveAs, "").isEmpty() ? "reject" : "accept");
+  }
+  /// Prints the page, and returns what boxes say after the question whether to.
+  QStringList print(const QString& name = {}) {
+    saveAs = name;
+    boxes.clear();
+    choose("Print");
+    return boxes.mid(1);
+  }
+  /// Writes a file, in which HERE is the folder.
+  void write(const QString& name, QString text = {}) const {
+    QFile file(name);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text.replace("HERE", folder.path()).toUtf8());
+  }
+  static QString output(const QString& program, const QStringList& with, QByteArray input = {}) {
+    QProcess process;
+    process.start(program, with);
+    process.write(input);
+    process.closeWriteChannel();
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+  }
+  void expectThePage(const QString& file, const QString& paper) const {
+    QString page;
+    for (const auto& line : game.page.PrintLines) page += QString::fromStdString(line) + ' ';
+    EXPECT_EQ(output("pdftotext", {"-layout", file, "-"}).simplified(), page.simplified());
+    EXPECT_TRUE(output("pdfinfo", {file}).contains(paper)) << "not on " << paper.toStdString();
+    EXPECT_TRUE(output("pdffonts", {file}).contains("LiberationMono"));
+  }
+};
+
+TEST_F(PrintTest, SavesThePageAndNothingBesideIt) {
+  print("saved");
+  expectThePage("saved.pdf", "(A4)");
+  QStringList files;
+  QDirIterator all(".", QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+  while (all.hasNext()) files += all.next();
+  EXPECT_EQ(files, QStringList("./saved.pdf"));
+}
+
+TEST_F(PrintTest, FileThatIsThereIsLeftAloneByDefault) {
+  write("saved.pdf", "old");
+  EXPECT_EQ(print("saved").value(2), "saved.pdf is already there: replace it?");
+  EXPECT_EQ(output("cat", {"saved.pdf"}), "old");
+}
+
+/// A print server of the test's own, with one printer.
+struct PrinterTest : PrintTest {
+  QProcess server;
+
+  void SetUp() override {
+    if (!QFile::exists("/usr/sbin/cupsd")) GTEST_SKIP() << "There is no print server to print on.";
+    write("cupsd.conf",
+          "Listen HERE/cups\nBrowsing Off\nDirtyCleanInterval 0\n"
+          "<Policy default>\n<Limit All>\nAllow from all\n</Limit>\n</Policy>\n");
+    write("cups-files.conf",
+          "ServerRoot HERE\nRequestRoot HERE/spool\nCacheDir HERE/cache\nStateDir HERE/state\n"
+          "TempDir HERE\nErrorLog stderr\nAccessLog HERE/access\nPageLog HERE/page\n");
+    write("printers.conf", "<DefaultPrinter B>\n</DefaultPrinter>\n");
+    server.start("/usr/sbin/cupsd", {"-f", "-c", "cupsd.conf"});
+    const auto isReady = [] { return output("lpstat", {"-a"}).contains("B accepting"); };
+    ASSERT_TRUE(QTest::qWaitFor(isReady, 30000)) << server.readAllStandardError().toStdString();
+  }
+  void TearDown() override { server.close(); }
+};
+
+TEST_F(PrinterTest, UsualPrinterGetsThePage) {
+  EXPECT_EQ(print(), QStringList());
+  expectThePage("spool/d00001-001", "(A4)");
+}
+
+TEST_F(PrinterTest, StoppedPrinterIsTold) {
+  output("/usr/sbin/cupsdisable", {"B"});
+  EXPECT_EQ(print(), QStringList("The printer is stopped; the page waits for it."));
+}
+
+}  // namespace tessoro::test
