@@ -184,7 +184,7 @@ void FormView::paintEvent(QPaintEvent* event) {
   painter.setTransform(toPixels.inverted(), true);
 
   const QPalette colours = boardPalette(palette());
-  // One rectangle at a time: clipped to several, Qt blends the edges of letters a little otherwise.
+  // One rectangle at a time, because clipping to several blends the edges of letters differently.
   for (const QRect& part : pixelRegion(event->region(), toPixels)) {
     painter.setClipRect(part);
     painter.fillRect(part, toQColor(platform::buttonFace, colours));

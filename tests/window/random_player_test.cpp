@@ -64,17 +64,11 @@ struct WindowPlayerTest : ClientTest {
     pressed = 0;
     choose(done);
   }
-  void changeTheZoom() {
-    const auto key = anyOf(std::array{Qt::Key_Plus, Qt::Key_Minus, Qt::Key_0});
-    done = "Ctrl + " + QDebug::toString(key);
-    pressed = 0;
-    tap(key, Qt::ControlModifier);
-  }
   void doSomething() {
     using Player = WindowPlayerTest;
     constexpr std::array usual{&Player::clickAnywhere, &Player::tapAKey, &Player::typeACharacter};
-    constexpr std::array rare{&Player::actAsAClient, &Player::chooseACommand,
-                              &Player::changeTheZoom};
+    constexpr std::array rare{&Player::actAsAClient, &Player::actAsAClient,
+                              &Player::chooseACommand};
     (this->*anyOf(below(5) > 0 ? usual : rare))();
     sentences += said();
     window.activateWindow();  // as a window manager does when a box closes
