@@ -161,7 +161,10 @@ void FormView::hideWidget(ControlWidget& widget) {
       if (item.widget->geometry() == widget.geometry()) item.widget->setFocus();
     }
   }
+  // Qt moves the focus on as Tab would.
+  const bool keysUsed = keysUsed_;
   widget.hide();
+  setKeysUsed(keysUsed);
 }
 
 void FormView::setYielding(bool yielding) {
