@@ -72,6 +72,7 @@ struct WindowPlayerTest : ClientTest {
     (this->*anyOf(below(5) > 0 ? usual : rare))();
     sentences += said();
     window.activateWindow();  // as a window manager does when a box closes
+    settle();
   }
 };
 
