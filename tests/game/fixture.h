@@ -40,12 +40,12 @@ struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpV
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
   Log said;    ///< what a screen reader speaks: sentences, and boxes as "You got it ! [OK]"
-  Log opened;  ///< modal forms, help files and the windows that they belong to
+  Log opened;  ///< modal forms; help files, each after its window
   std::string printed, printFont;
   int documents = 0;
   Answer answer = Answer::no;             ///< to a question
-  std::function<void()> onYield = [] {};  ///< runs while a search yields
-  double clock = 30000, tick = 1e-6;      ///< in seconds: the time, and how far each reading is on
+  std::function<void()> onYield = [] {};  ///< called while a search yields
+  double clock = 30000, tick = 1e-6;  ///< the time, and how far each reading advances it, seconds
 };
 
 /// The game, started on a puzzle whose solution is known.
@@ -58,15 +58,15 @@ struct GameTest : testing::Test, Digits {
       "9 - 5 - 2 = 2\n"
       "= # = # = # =\n"
       "3 * 5 - 7 = 8\n";
-  /// The digits from which a search makes that solution, and those of an attempt that fails.
+  /// The random digits that make this solution, and those of an attempt that fails.
   static constexpr const char *solutionDigits = "771534952", *failingDigits = "112112112";
 
   FakeDesktop desktop;
-  std::string nextDigits = solutionDigits;  ///< the digits drawn next; then come random ones
+  std::string nextDigits = solutionDigits;  ///< the next random digits; then real ones
   ReseededDigits randomDigits{desktop};
   Game game{desktop, *this};
   Form1& form = game.form;
-  int focused = 0;  ///< the cell that has been given the focus last
+  int focused = 0;  ///< the cell that last got the focus
 
   GameTest() {
     for (int i = 1; i <= gridCells; ++i) cell(i).focusWanted = [this, i] { focused = i; };
@@ -95,7 +95,7 @@ struct GameTest : testing::Test, Digits {
   void turnTo(int index, const std::string& text) {
     for (int presses = 0; caption(index) != text && presses < 10; ++presses) press(index);
   }
-  /// Turns the cells from the first one on to what is drawn; "." leaves a cell as it is.
+  /// Turns the cells, from `first` on, to the drawn texts; "." leaves a cell as it is.
   void turn(int first, const std::string& drawn, int except = 0) {
     std::istringstream texts(drawn);
     for (std::string text; texts >> text; ++first) {
@@ -110,8 +110,7 @@ struct GameTest : testing::Test, Digits {
       if (item->caption() == text) item->choose();
     }
   }
-  /// Types a character while the cell has the focus, a capital with Shift. Returns whether it has a
-  /// meaning there.
+  /// Types a character on the cell, a capital with Shift. Returns whether it has a meaning there.
   static bool type(const Cell& on, char character) {
     const bool shift = character >= 'A' && character <= 'Z';
     return on.typed && on.typed(static_cast<char>(shift ? character + 32 : character), shift);
@@ -122,8 +121,5 @@ struct GameTest : testing::Test, Digits {
   std::string corners() const { return drawnCorners(form.board); }
   std::string lastSaid() const { return desktop.said.empty() ? "" : desktop.said.back(); }
 };
-
-/// Names a row of a parameterised test in the test's output.
-constexpr auto nameOf = [](const auto& row) { return std::string(row.param.name); };
 
 }  // namespace tessoro::test

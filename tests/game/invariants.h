@@ -22,7 +22,7 @@ inline std::string drawnGrid(const Board& board) {
   return drawn;
 }
 
-/// What stands beside the four corners: ":)", the number to reach, or "." for nothing.
+/// What stands beside the four corners: ":)", the target, or "." for nothing.
 inline std::string drawnCorners(const Board& board) {
   std::string drawn;
   for (int k = 1; k <= 4; ++k) {
@@ -33,43 +33,43 @@ inline std::string drawnCorners(const Board& board) {
   return drawn;
 }
 
-/// What holds after every event, whatever the player does. Watches one game.
+/// Rules that hold after every event, whatever the player does. Watches one game.
 class Invariants {
  public:
   explicit Invariants(const Game& game) : game_(game) {}
 
   /// Returns the rule that the event since the last call has broken; empty if none. `pressed` is
-  /// the cell that the event pressed, 0 after any other event, and `said` what was said of it.
+  /// the cell that the event pressed, 0 for other events, and `said` the sentence spoken after it.
   std::string broken(int pressed, const std::string& said) {
     const Position before = std::exchange(now_, Position(game_));
     const bool changed = before.look != now_.look;
     const bool moved = pressed != 0 && changed && !before.stating;
-    if (!modeIsShown()) return "The buttons, the messages and the menu are those of the mode";
+    if (!modeIsShown()) return "Buttons, messages and menu fit the mode";
     for (int i = 1; i <= gridCells; ++i) {
       if (!looksLikeItsKind(i))
-        return "Each cell looks like its kind, and is enabled if it can be set";
+        return "Each cell looks like its kind and is enabled if it can be set";
     }
     if (before.puzzle != now_.puzzle && !solutionIsRight())
-      return "A solution is true and has the stated corners";
+      return "Every line of a solution is true, and it has the corners that were set";
     if (moved && (before.over || !cell(pressed).enabled()))
-      return "A puzzle that is over and a disabled cell take no move";
-    if (moved && !resultsFit(pressed)) return "A move leaves in each result the value of its line";
+      return "Nothing moves after the end of a puzzle or on a disabled cell";
+    if (moved && !resultsFit(pressed)) return "After a move each result is the value of its line";
     if (moved && !cornersFit())
       return "Corners are right, green and under a face, or wrong, black and beside their target; "
              "four right ones end the puzzle";
     const bool onGrid = pressed != 0 && pressed <= gridCells && kinds[pressed] != '#';
-    if (onGrid && said.empty()) return "Every press on the grid is answered";
+    if (onGrid && said.empty()) return "Every press on the grid is followed by a sentence";
     if (onGrid && now_.texts[pressed] != before.texts[pressed] &&
         !said.starts_with(spoken(now_.texts[pressed])))
-      return "A press is answered first with what its cell shows";
+      return "The sentence after a press begins with what the cell shows";
     return {};
   }
 
-  /// The position in a text: where two are alike, the player sees and can do the same.
+  /// The position as text. Equal texts mean that the player sees and can do the same.
   static std::string look(const Game& game) { return Position(game).look; }
 
  private:
-  /// The kinds of the cells 1..49: numbers, operators, equals signs, holes and results.
+  /// The kinds of the cells 1..49: '1' number, '+' operator, '=' equals sign, '#' hole, '?' result.
   static constexpr std::string_view kinds =
       " "
       "1+1+1=?"
@@ -113,7 +113,7 @@ class Invariants {
   static int apply(int left, const std::string& op, int right) {
     return op == "+" ? left + right : op == "-" ? left - right : left * right;
   }
-  /// The result of the line with this first cell, worked out without the code under test.
+  /// The result of the line with this first cell, calculated without the code under test.
   static std::string resultOf(const Texts& texts, int first, int step) {
     const auto text = [&](int place) { return texts[first + place * step]; };
     for (const int place : {0, 1, 2, 3, 4}) {
@@ -157,7 +157,7 @@ class Invariants {
       if (now_.texts[7 * i] != row || now_.texts[42 + i] != column) return false;
       known = known && row != "?" && column != "?";
     }
-    // An operator of column 7 leaves that column's value; all else leaves row 7's.
+    // After an operator of column 7 the last cell shows that column's value, otherwise row 7's.
     if (pressed == 14 || pressed == 28) return now_.texts[49] == resultOf(now_.texts, 7, 7);
     const bool ofRow7 = pressed == 44 || pressed == 46;
     return now_.texts[49] == (known || ofRow7 ? resultOf(now_.texts, 43, 1) : "?");

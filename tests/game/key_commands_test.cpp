@@ -8,7 +8,7 @@ TEST_F(KeyCommandsTest, SameCharacterAgainIsNoMove) {
   solveExcept(46);
   turnTo(28, "+");
   type(17, '3');
-  EXPECT_EQ(caption(49), "6") << "column 7's value, which a move elsewhere would replace";
+  EXPECT_EQ(caption(49), "6") << "column 7's value; a move elsewhere would show row 7's";
 }
 
 TEST_F(KeyCommandsTest, PAndXNeedNoShift) {
@@ -26,21 +26,21 @@ TEST_F(KeyCommandsTest, NGoesToTheNextEmptyCellAndShiftNToTheOneBefore) {
   EXPECT_EQ(focused, 14);
 }
 
-TEST_F(KeyCommandsTest, ShiftNGoesFromSolvePuzzleToTheLastCornerToSet) {
+TEST_F(KeyCommandsTest, ShiftNGoesFromSolvePuzzleToTheLastUnsetCorner) {
   choose("Set a Puzzle for computer to solve");
   press(49);
   type(form.Solveit, 'N');
   EXPECT_EQ(focused, 43);
 }
 
-TEST_F(KeyCommandsTest, ButtonIsInNoRowAndNoColumnAndTakesNoDigit) {
+TEST_F(KeyCommandsTest, ButtonHasNoRowOrColumnAndCannotBeSet) {
   EXPECT_FALSE(type(form.NewPuz, 'r'));
   EXPECT_FALSE(type(form.NewPuz, 'c'));
   EXPECT_TRUE(type(form.NewPuz, '5'));
   EXPECT_EQ(desktop.said, Log{"Nothing is set here"});
 }
 
-/// A screen reader can give the focus to what stands there.
+/// A screen reader can give the focus to the targets beside the grid.
 TEST_F(KeyCommandsTest, NothingIsReadBesideTheGrid) {
   press(17);
   desktop.said.clear();

@@ -5,6 +5,7 @@ namespace tessoro::test {
 using enum platform::MouseButton;
 
 struct MovesTest : GameTest {
+  /// Presses the cell and returns what it shows after each press.
   std::string shownByPresses(int index, platform::MouseButton button, int presses) {
     std::string shown;
     for (; presses > 0; --presses) {
@@ -36,7 +37,7 @@ TEST_F(MovesTest, RightPressCountsDown) {
   EXPECT_EQ(shownByPresses(17, right, 10), " 9 8 7 6 5 4 3 2 1 9");
 }
 
-TEST_F(MovesTest, EveryButtonTakesAnOperatorOn) {
+TEST_F(MovesTest, EveryButtonChangesAnOperatorToTheNext) {
   EXPECT_EQ(shownByPresses(18, left, 4), " + - * +");
   EXPECT_EQ(shownByPresses(18, right, 4), " - * + -");
 }

@@ -4,7 +4,7 @@ namespace tessoro::test {
 
 using NewPuzzleTest = GameTest;
 
-TEST_F(NewPuzzleTest, ShowsItsCornersAlone) {
+TEST_F(NewPuzzleTest, ShowsOnlyTheCorners) {
   solveExcept(33);
   nextDigits = solutionDigits;
   click(form.NewPuz);
@@ -19,7 +19,7 @@ TEST_F(NewPuzzleTest, ShowsItsCornersAlone) {
   EXPECT_EQ(corners(), ". . . .");
 }
 
-TEST_F(NewPuzzleTest, IsNumberedInTheTitleFrom1AgainAfterTheLargestNumber) {
+TEST_F(NewPuzzleTest, NumberInTheTitleStartsAgainAt1AfterTheLargest) {
   game.state.PuzzleNo = 32766;
   click(form.NewPuz);
   EXPECT_EQ(form.caption(), "Puzzle Number  32767");
@@ -27,9 +27,9 @@ TEST_F(NewPuzzleTest, IsNumberedInTheTitleFrom1AgainAfterTheLargestNumber) {
   EXPECT_EQ(form.caption(), "Puzzle Number  1");
 }
 
-TEST_F(NewPuzzleTest, StartASolutionFillsTheBoardAtRandomAndGoesOn) {
+TEST_F(NewPuzzleTest, StartASolutionFillsTheBoardAtRandomAndContinuesPlay) {
   choose("Show Solution");
-  nextDigits = "9129315941199999";  // four to a row: the results are worked out instead
+  nextDigits = "9129315941199999";  // one per number; the results are calculated
   choose("Start a Solution");
   EXPECT_EQ(grid(),
             "7 + 1 + 2 = ?\n"

@@ -29,7 +29,7 @@ struct PrintPageTest : GameTest {
   }
 };
 
-TEST_F(PrintPageTest, ThreePuzzlesStandBesideTheirSolutions) {
+TEST_F(PrintPageTest, PrintsThreePuzzlesBesideTheirSolutions) {
   for (int number = 2; number <= 3; ++number) makePuzzle();
   desktop.answer = platform::Desktop::Answer::yes;
   choose("Print");
@@ -41,7 +41,7 @@ TEST_F(PrintPageTest, ThreePuzzlesStandBesideTheirSolutions) {
   EXPECT_EQ(desktop.documents, 1);
 }
 
-TEST_F(PrintPageTest, FourthPuzzleTakesThePlaceOfTheFirst) {
+TEST_F(PrintPageTest, FourthPuzzleReplacesTheFirst) {
   for (int number = 2; number <= 4; ++number) makePuzzle();
   choose("Print");
   EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 4, 2, 3 [Yes] [No]");

@@ -8,11 +8,11 @@ namespace tessoro::test {
 
 using enum platform::MouseButton;
 
-/// Somebody who presses, types and chooses anything at any time, also while a search runs, under a
-/// clock that stands still or jumps.
+/// A player who presses, types and chooses anything at any time, even during a search, while the
+/// clock stands still or jumps.
 struct RandomPlayerTest : GameTest {
   std::mt19937 random;
-  int pressed = 0;  ///< the cell that the last event was to change; 0 for none
+  int pressed = 0;  ///< the cell that the last event may change; 0 for none
 
   int below(unsigned end) { return static_cast<int>(random() % end); }
   void act() {
@@ -35,7 +35,7 @@ struct RandomPlayerTest : GameTest {
   }
 };
 
-/// TESSORO_SEED plays the same again.
+/// To repeat a game, set TESSORO_SEED to the seed that it printed.
 TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
   const char* last = std::getenv("TESSORO_SEED");
   const auto seed = last == nullptr ? std::random_device{}() : std::stoul(last);
@@ -44,7 +44,7 @@ TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
   desktop.onYield = [&] {
     const std::string before = Invariants::look(game);
     if (below(3) == 0) act();
-    EXPECT_EQ(Invariants::look(game), before) << "a running search is left alone";
+    EXPECT_EQ(Invariants::look(game), before) << "changed during a search";
     pressed = 0;
   };
   Invariants invariants(game);
@@ -52,9 +52,9 @@ TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
     const std::string before = Invariants::look(game);
     act();
     ASSERT_EQ(invariants.broken(pressed, desktop.said.empty() ? "" : desktop.said[0]), "")
-        << "Cell " << pressed << " was pressed, if any, on\n"
-        << before << "\nThen it was\n"
-        << Invariants::look(game) << "\nand said was: " << lastSaid();
+        << "after a press on cell " << pressed << " (0: another event) of\n"
+        << before << "\nwhich became\n"
+        << Invariants::look(game) << "\nwith the sentence: " << lastSaid();
     desktop.said.clear();
   }
 }

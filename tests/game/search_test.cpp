@@ -12,12 +12,12 @@ struct SearchTest : GameTest {
   }
 };
 
-TEST_F(SearchTest, ProgramEndsInTheMiddleOfIt) {
+TEST_F(SearchTest, ExitEndsTheProgramDuringASearch) {
   EXPECT_THROW(chooseWhileSearching("Exit"), ProgramEnded);
 }
 
-/// Nothing but the clock is random, so every run draws the same digits.
-TEST_F(SearchTest, DigitsHaveTheirSharesWhetherTheClockRunsStandsJumpsOrGoesBack) {
+/// The digits depend only on the clock, so every run draws the same.
+TEST_F(SearchTest, DigitsAreDistributedAlikeWhetherTheClockRunsStandsJumpsOrGoesBack) {
   for (const double tick : {1e-6, 0.0, 0.125, -3.5}) {
     desktop.tick = tick;
     ReseededDigits digits(desktop);

@@ -4,7 +4,7 @@ namespace tessoro::test {
 
 using SpokenTest = GameTest;
 
-TEST_F(SpokenTest, LastMoveIsSaidBeforeItsBox) {
+TEST_F(SpokenTest, WinningMoveIsSaidBeforeTheBox) {
   solveExcept(33);
   desktop.said.clear();
   type(33, '2');
@@ -12,7 +12,7 @@ TEST_F(SpokenTest, LastMoveIsSaidBeforeItsBox) {
                                "You got it ! [OK]"}));
 }
 
-TEST_F(SpokenTest, ShownSolutionAndTheEndAreSaid) {
+TEST_F(SpokenTest, ShowSolutionSaysThatThePuzzleIsOver) {
   choose("Show Solution");
   press(17);
   type(17, 'n');
@@ -20,7 +20,7 @@ TEST_F(SpokenTest, ShownSolutionAndTheEndAreSaid) {
                                "The puzzle is over", "The puzzle is over"}));
 }
 
-/// What is heard on a key in the middle of a puzzle:
+/// A key typed in the middle of a puzzle, and the sentence that follows:
 ///
 ///     7 - 7 + 1 = 1
 ///     + # * # . # .
@@ -30,6 +30,7 @@ struct Key {
   int cell;
   char character;
   const char* heard;
+  friend void PrintTo(const Key& key, std::ostream* out) { *out << key.name; }
 };
 struct KeyTest : GameTest, testing::WithParamInterface<Key> {};
 
@@ -46,7 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Key{"ANumberOneUp", 31, '+', "1"}, Key{"ANumberOneDown", 31, '-', "9"},
                     Key{"AResult", 5, '2', "2, row 1 is 2, top right is wrong, target 1"},
                     Key{"AFullLine", 18, '*', "times, row 3 is full, no digit"}),
-    nameOf);
+    testing::PrintToStringParamName());
 INSTANTIATE_TEST_SUITE_P(
     Reads, KeyTest,
     testing::Values(
@@ -59,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
             "Corners: top left 7, correct, top right 1, correct, bottom left no value, target 3, "
             "bottom right no value, target 8"},
         Key{"TheLastSentence", 17, 'l', "9"}),
-    nameOf);
+    testing::PrintToStringParamName());
 INSTANTIATE_TEST_SUITE_P(
     Refuses, KeyTest,
     testing::Values(Key{"TimesOnANumber", 17, '*', "A digit from 1 to 9 is set here"},
@@ -68,6 +69,6 @@ INSTANTIATE_TEST_SUITE_P(
                     Key{"TheGivenNumber", 1, '5', "This number is given"},
                     Key{"AnEqualsSign", 36, '5', "Nothing is set here"},
                     Key{"AResult", 45, '5', "Results are worked out, not set"}),
-    nameOf);
+    testing::PrintToStringParamName());
 
 }  // namespace tessoro::test

@@ -17,7 +17,7 @@ struct AboutTest : ClientTest {
   }
 };
 
-TEST_F(AboutTest, ShowsItsControlsAsLargeAsTheWindowDoes) {
+TEST_F(AboutTest, HasTheSizeAndPictureOfTheFormAtEachZoom) {
   for (const QSize size : {QSize(317, 97), QSize(396, 121)}) {
     staysOpen([&](Box box) {
       EXPECT_EQ(box.widget.maximumSize(), size);
@@ -28,12 +28,12 @@ TEST_F(AboutTest, ShowsItsControlsAsLargeAsTheWindowDoes) {
   }
 }
 
-TEST_F(AboutTest, BoardBehindHasNoRing) {
+TEST_F(AboutTest, BoardBehindItHasNoFocusRing) {
   tap(Qt::Key_Tab);
   staysOpen([&](Box) { EXPECT_EQ(difference(), ""); });
 }
 
-TEST_F(AboutTest, IsReadOut) {
+TEST_F(AboutTest, TextIsReadOut) {
   staysOpen([&](Box box) {
     const QString read =
         qt::hasAnnouncements ? said().value(0) : box.widget.accessibleDescription();
@@ -42,7 +42,7 @@ TEST_F(AboutTest, IsReadOut) {
   });
 }
 
-TEST_F(AboutTest, ClosesByAnyMouseButtonOverItsText) {
+TEST_F(AboutTest, AnyMouseButtonOverTheTextClosesIt) {
   EXPECT_FALSE(staysOpen([&](Box box) {
     QTest::mousePress(box.widget.windowHandle(), Qt::RightButton, {}, {100, 30});
   }));

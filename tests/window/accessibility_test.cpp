@@ -4,36 +4,36 @@ namespace tessoro::test {
 
 using AccessibilityTest = ClientTest;
 
-TEST_F(AccessibilityTest, FirstPuzzleIsSpokenOnceAScreenReaderListens) {
+TEST_F(AccessibilityTest, FirstPuzzleIsSpokenWhenAScreenReaderStarts) {
   const QString corners = "Corners: top left 7, top right 1, bottom left 3, bottom right 8";
   EXPECT_EQ(greeting, QStringList(corners));
 }
 
-TEST_F(AccessibilityTest, ActionDoesNotKeepTheClientWaiting) {
+TEST_F(AccessibilityTest, ActionReturnsBeforeThePressHappens) {
   at(cell(17))->actionInterface()->doAction("Press");
   EXPECT_EQ(caption(17), "");
 }
 
-TEST_F(AccessibilityTest, NewNamesAreToldFromTheFirstPuzzleOn) {
+TEST_F(AccessibilityTest, ClientsAreNotifiedOfNewNamesInTheFirstPuzzle) {
   act(cell(17), "Press");
-  EXPECT_TRUE(client.told(QAccessible::NameChanged).contains("1, row 3 column 3"));
+  EXPECT_TRUE(client.notified(QAccessible::NameChanged).contains("1, row 3 column 3"));
 }
 
-TEST_F(AccessibilityTest, NewStatesAreToldFromTheFirstPuzzleOn) {
+TEST_F(AccessibilityTest, ClientsAreNotifiedOfNewStatesInTheFirstPuzzle) {
   choose("Set a Puzzle for computer to solve");
   const QStringList corners{"not set, row 1 column 1", "not set, row 1 column 7"};
-  EXPECT_EQ(client.told(QAccessible::StateChanged).filter("row 1"), corners);
+  EXPECT_EQ(client.notified(QAccessible::StateChanged).filter("row 1"), corners);
 }
 
-TEST_F(AccessibilityTest, BoardsInBetweenAreNotTold) {
+TEST_F(AccessibilityTest, ClientsAreNotNotifiedDuringASearch) {
   click(cell(17));
   settle();
-  client.told(QAccessible::NameChanged);
+  client.notified(QAccessible::NameChanged);
   click(game.form.NewPuz);
   settle();
-  const QStringList names = client.told(QAccessible::NameChanged);
+  const QStringList names = client.notified(QAccessible::NameChanged);
   EXPECT_EQ(names.filter(QRegularExpression("target $")), QStringList()) << "an empty target";
-  EXPECT_FALSE(names.contains("Puzzle Number  2")) << "the sentence tells of it";
+  EXPECT_FALSE(names.contains("Puzzle Number  2")) << "the sentence says it already";
 }
 
 }  // namespace tessoro::test

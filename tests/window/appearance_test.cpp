@@ -2,14 +2,14 @@
 
 namespace tessoro::test {
 
-/// These, the zoom and the random player run again at other scale factors.
+/// ctest runs these and the random player again at other scale factors.
 using AppearanceTest = PictureTest;
 
 TEST_F(AppearanceTest, ControlsLookAsTheyDescribeThemselves) {
   click(cell(17));
   cell(17).borderleft = platform::palette[9];
   cell(17).borderright = platform::palette[12];
-  game.form.Solveit.Visible = true;  // disabled, and in front of the other
+  game.form.Solveit.Visible = true;  // disabled, in front of "New Puzzle"
   settle();
   EXPECT_EQ(difference(), "");
 }
@@ -25,7 +25,7 @@ TEST_F(AppearanceTest, TextIsNoFainterBehindABox) {
   EXPECT_EQ(difference(), "");
 }
 
-TEST_F(AppearanceTest, BordersStandOutWhereTheThemesOwnDoNot) {
+TEST_F(AppearanceTest, BordersStandOutInAThemeWithFaintOnes) {
   QPalette theme{QColor(0x9390ec)};
   theme.setColor(QPalette::Light, 0x9592ee);
   theme.setColor(QPalette::Dark, 0x8582de);

@@ -8,8 +8,8 @@
 
 namespace tessoro::test {
 
-/// An accessibility client, such as a screen reader. It asks for a name or a state only when it is
-/// told that there is a new one.
+/// An accessibility client, such as a screen reader. It asks for a name or a state only after an
+/// event that reports a new one.
 class Client {
  public:
   explicit Client(QWidget& view) : window_(QAccessible::queryAccessibleInterface(&view)) {
@@ -28,16 +28,16 @@ class Client {
     for (int i = 0; i < window_->childCount(); ++i) all += window_->child(i);
     return all;
   }
-  /// What is found at a place of the client area.
+  /// What the client finds at a place of the client area.
   QAccessibleInterface* at(QPoint place) const {
     const QPoint it = window_->rect().topLeft() + place;
     return window_->childAt(it.x(), it.y());
   }
   /// The sentences spoken since the last call.
   QStringList said() { return std::exchange(sentences_, {}); }
-  /// The names that events of this type have been about since the last call.
-  QStringList told(QAccessible::Event type) { return std::exchange(events_[type], {}); }
-  /// What the client believes of a visible control that is not so; empty if there is nothing.
+  /// The names of the objects that had an event of this type since the last call.
+  QStringList notified(QAccessible::Event type) { return std::exchange(events_[type], {}); }
+  /// A name or a state of a visible control that the client has wrong; empty if there is none.
   QString mistake() const {
     for (auto* it : controls()) {
       const auto [name, wasDisabled] = known_.value(it->object());
@@ -53,12 +53,12 @@ class Client {
   QAccessibleInterface* window_;
   QStringList sentences_;
   QMap<int, QStringList> events_;
-  QMap<QObject*, std::pair<QString, bool>> known_;  ///< the names, and whether it is disabled
+  QMap<QObject*, std::pair<QString, bool>> known_;  ///< name, and whether it is disabled
 
   static QString nameOf(QAccessibleInterface* it) { return it->text(QAccessible::Name); }
   static bool isDisabled(QAccessibleInterface* it) { return it->state().disabled; }
   static void hear(QAccessibleEvent* event) {
-    // Nobody asks a widget for anything while it is destroyed.
+    // A widget that is being destroyed can no longer be asked.
     if (event->type() == QAccessible::ObjectDestroyed) return;
     if (auto* source = event->accessibleInterface()) listening->hear(*event, source);
   }
@@ -81,7 +81,7 @@ class Client {
   }
 };
 
-/// The game as it is met through a screen reader, which has heard the greeting.
+/// The game with a screen reader, which has already spoken the greeting.
 struct ClientTest : PictureTest {
   Client client{view};
   const QStringList greeting = said();

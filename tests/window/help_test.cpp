@@ -24,23 +24,23 @@ struct HelpTest : ClientTest {
   }
 };
 
-TEST_F(HelpTest, ReturnFollowsTheLinkAndReadsWhereItLeads) {
+TEST_F(HelpTest, ReturnFollowsTheLinkAndReadsItsTarget) {
   const int before = scrolled();
   followTheFirstLink();
   EXPECT_EQ(said(), QStringList("Playing by keys and by ear"));
   EXPECT_GT(scrolled(), before);
 }
 
-TEST_F(HelpTest, ArrowMovesTheCaretOnFromWhereTheLinkLed) {
+TEST_F(HelpTest, ArrowMovesTheCaretFromTheLinksTarget) {
   followTheFirstLink();
   tap(Qt::Key_Right);
   EXPECT_EQ(text->textCursor().block().text().simplified(), "Playing by keys and by ear");
   EXPECT_EQ(text->textCursor().positionInBlock(), 1);
 }
 
-TEST_F(HelpTest, EscapeClosesItOnceAScreenReaderHasTakenInTheKey) {
+TEST_F(HelpTest, EscapeClosesItAfterAScreenReaderHasNoticedTheKey) {
   bool isOpen = false;
-  QTimer::singleShot(50, [&] { isOpen = help->isVisible(); });  // of 100 ms
+  QTimer::singleShot(50, [&] { isOpen = help->isVisible(); });  // it waits 100 ms
   tap(Qt::Key_Escape);
   EXPECT_TRUE(isOpen);
   EXPECT_FALSE(help->isVisible());
@@ -49,7 +49,7 @@ TEST_F(HelpTest, EscapeClosesItOnceAScreenReaderHasTakenInTheKey) {
 struct HelpFileTest : WindowTest {
   const QTemporaryDir folder;
 
-  /// What help shows where the file has this content; where it is missing, if that is null.
+  /// What help shows for a file with this content, or without the file if it is null.
   QString shown(const QByteArray& content) {
     QFile file(folder.filePath("some.hlp"));
     if (!content.isNull() && file.open(QIODevice::WriteOnly)) file.write(content);
@@ -62,7 +62,7 @@ struct HelpFileTest : WindowTest {
   }
 };
 
-TEST_F(HelpFileTest, IsMissing) {
+TEST_F(HelpFileTest, MissingFileIsReported) {
   EXPECT_EQ(shown({}), "The help file \"some.hlp\" cannot be found.");
 }
 

@@ -8,7 +8,7 @@ struct KeyGuardTest : WindowTest {
     release(key);
     send(QEvent::KeyPress, key, {}, {});
   }
-  void waitUntilBoxTakesKeys() { time += 500; }
+  void waitUntilBoxAcceptsKeys() { time += 500; }
   /// Opens a message box and returns whether it is still open after `then`.
   bool boxStaysOpen(const std::function<void()>& then) {
     bool open = false;
@@ -30,7 +30,7 @@ TEST_F(KeyGuardTest, HeldKeyPressesOnce) {
   EXPECT_EQ(caption(17), "1");
 }
 
-TEST_F(KeyGuardTest, HeldArrowGoesOn) {
+TEST_F(KeyGuardTest, HeldArrowKeepsMoving) {
   cell(15).SetFocus();
   press(Qt::Key_Right);
   repeat(Qt::Key_Right);
@@ -42,9 +42,9 @@ TEST_F(KeyGuardTest, BoxIgnoresKeysForHalfASecond) {
   EXPECT_TRUE(boxStaysOpen([&] { tap(Qt::Key_Return); }));
 }
 
-TEST_F(KeyGuardTest, BoxTakesAKeyAfterHalfASecond) {
+TEST_F(KeyGuardTest, BoxAcceptsAKeyAfterHalfASecond) {
   EXPECT_FALSE(boxStaysOpen([&] {
-    waitUntilBoxTakesKeys();
+    waitUntilBoxAcceptsKeys();
     tap(Qt::Key_Return);
   }));
 }
@@ -52,7 +52,7 @@ TEST_F(KeyGuardTest, BoxTakesAKeyAfterHalfASecond) {
 TEST_F(KeyGuardTest, BoxIgnoresAKeyHeldSinceBefore) {
   press(Qt::Key_Return);
   EXPECT_TRUE(boxStaysOpen([&] {
-    waitUntilBoxTakesKeys();
+    waitUntilBoxAcceptsKeys();
     repeat(Qt::Key_Return);
   }));
 }
@@ -60,12 +60,12 @@ TEST_F(KeyGuardTest, BoxIgnoresAKeyHeldSinceBefore) {
 TEST_F(KeyGuardTest, BoxIgnoresAKeyWhileAnotherIsHeldSinceBefore) {
   press(Qt::Key_J);
   EXPECT_TRUE(boxStaysOpen([&] {
-    waitUntilBoxTakesKeys();
+    waitUntilBoxAcceptsKeys();
     tap(Qt::Key_Return);
   }));
 }
 
-TEST_F(KeyGuardTest, KeyReleasedUnnoticedCountsAsHeldForASecond) {
+TEST_F(KeyGuardTest, KeyWithoutAReleaseCountsAsHeldForOneSecond) {
   press(Qt::Key_J);
   EXPECT_FALSE(boxStaysOpen([&] {
     time += 1000;

@@ -2,12 +2,13 @@
 
 namespace tessoro::test {
 
-/// What a cell that shows 5 shows after a key.
+/// A key, and what a cell that shows 5 shows after it.
 struct PressingKey {
   const char* name;
   QKeyCombination key;
   const char* text;
   const char* shown;
+  friend void PrintTo(const PressingKey& row, std::ostream* out) { *out << row.name; }
 };
 struct PressingKeyTest : WindowTest, testing::WithParamInterface<PressingKey> {};
 
@@ -28,42 +29,43 @@ INSTANTIATE_TEST_SUITE_P(
                     PressingKey{"BackspaceCountsDown", Qt::Key_Backspace, "\b", "4"},
                     PressingKey{"KeypadPlusCountsUp", Qt::KeypadModifier | Qt::Key_Plus, "+", "6"},
                     PressingKey{"AltDigitDoesNothing", Qt::ALT | Qt::Key_3, "3", "5"}),
-    nameOf<PressingKey>);
+    testing::PrintToStringParamName());
 
-/// Where a key leads in the grid.
-struct LeadingKey {
+/// A key, and the cells between which it moves the focus.
+struct MovingKey {
   const char* name;
   int from;
   QKeyCombination key;
   int to;
+  friend void PrintTo(const MovingKey& row, std::ostream* out) { *out << row.name; }
 };
-struct LeadingKeyTest : WindowTest, testing::WithParamInterface<LeadingKey> {};
+struct MovingKeyTest : WindowTest, testing::WithParamInterface<MovingKey> {};
 
-TEST_P(LeadingKeyTest, Leads) {
+TEST_P(MovingKeyTest, MovesTheFocus) {
   const auto& [name, from, key, to] = GetParam();
   cell(from).SetFocus();
   tap(key.key(), key.keyboardModifiers());
   EXPECT_EQ(focusedCell(), to);
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, LeadingKeyTest,
-                         testing::Values(LeadingKey{"RightOverAHole", 24, Qt::Key_Right, 26},
-                                         LeadingKey{"UpOverAHole", 16, Qt::Key_Up, 2},
-                                         LeadingKey{"UpOverAnotherHole", 18, Qt::Key_Up, 4},
-                                         LeadingKey{"HomeInTheRow", 18, Qt::Key_Home, 15},
-                                         LeadingKey{"ToTheFirst", 18, Qt::CTRL | Qt::Key_Home, 1},
-                                         LeadingKey{"ToTheLast", 18, Qt::CTRL | Qt::Key_End, 49}),
-                         nameOf<LeadingKey>);
+INSTANTIATE_TEST_SUITE_P(Keys, MovingKeyTest,
+                         testing::Values(MovingKey{"RightOverAHole", 24, Qt::Key_Right, 26},
+                                         MovingKey{"UpOverAHole", 16, Qt::Key_Up, 2},
+                                         MovingKey{"UpOverAnotherHole", 18, Qt::Key_Up, 4},
+                                         MovingKey{"HomeInTheRow", 18, Qt::Key_Home, 15},
+                                         MovingKey{"ToTheFirst", 18, Qt::CTRL | Qt::Key_Home, 1},
+                                         MovingKey{"ToTheLast", 18, Qt::CTRL | Qt::Key_End, 49}),
+                         testing::PrintToStringParamName());
 
 struct KeysTest : PictureTest {
-  /// The menu's item that is marked; none while the menu is closed.
-  static QString marked() {
+  /// The selected menu item; empty while the menu is closed.
+  static QString selectedItem() {
     const auto* popup = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
     return popup == nullptr ? "" : popup->activeAction()->text();
   }
 };
 
-TEST_F(KeysTest, TabAndUpLeadFromTheButtonBackToTheCell) {
+TEST_F(KeysTest, TabAndUpReturnFromTheButtonToTheCell) {
   for (const auto back : {Qt::Key_Tab, Qt::Key_Up}) {
     cell(17).SetFocus();
     tap(Qt::Key_Tab);
@@ -72,17 +74,17 @@ TEST_F(KeysTest, TabAndUpLeadFromTheButtonBackToTheCell) {
   }
 }
 
-TEST_F(KeysTest, ShiftNOnSolvePuzzleLeadsToTheLastUnsetCorner) {
+TEST_F(KeysTest, ShiftNOnSolvePuzzleGoesToTheLastUnsetCorner) {
   choose("Set a Puzzle for computer to solve");
   game.form.Solveit.SetFocus();
   type("N");
   EXPECT_EQ(focusedCell(), 49);
 }
 
-TEST_F(KeysTest, EscapeLeadsFromTheMenuToTheRingedCell) {
+TEST_F(KeysTest, EscapeReturnsFromTheMenuToTheCellWithTheRing) {
   tap(Qt::Key_F10);
   tap(Qt::Key_Escape);
-  EXPECT_EQ(marked(), "");
+  EXPECT_EQ(selectedItem(), "");
   EXPECT_EQ(difference(&cell(1)), "");
 }
 

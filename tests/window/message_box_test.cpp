@@ -20,7 +20,7 @@ TEST_F(MessageBoxTest, MinimisingClosesIt) {
   EXPECT_EQ(show(Buttons::yesNo, [](Box box) { box.widget.showMinimized(); }), Answer::no);
 }
 
-TEST_F(MessageBoxTest, LastMoveIsReadWithTheBoxAndNotBesideIt) {
+TEST_F(MessageBoxTest, WinningMoveIsReadWithTheBoxAndNotSeparately) {
   QString read;
   onBox = [&](Box box) {
     read = box.label()->accessibleName();
@@ -37,7 +37,7 @@ TEST_F(MessageBoxTest, LastMoveIsReadWithTheBoxAndNotBesideIt) {
   EXPECT_EQ(said(), QStringList());
 }
 
-TEST_F(MessageBoxTest, ClientCanNeitherPressNorChooseBehindIt) {
+TEST_F(MessageBoxTest, ClientCannotUseTheWindowBehindIt) {
   show(Buttons::ok, [&](Box box) {
     act(cell(17), "Press");
     choose("Set a Puzzle for computer to solve");
@@ -47,11 +47,11 @@ TEST_F(MessageBoxTest, ClientCanNeitherPressNorChooseBehindIt) {
   EXPECT_FALSE(game.state.SolveMode);
 }
 
-TEST_F(MessageBoxTest, ScreenReaderTakesInTheKeyBeforeItComesUp) {
-  bool isUp = true;
-  QTimer::singleShot(50, [&] { isUp = QApplication::activeModalWidget() != nullptr; });  // of 100
+TEST_F(MessageBoxTest, OpensAfterAScreenReaderHasNoticedTheKey) {
+  bool isOpen = true;
+  QTimer::singleShot(50, [&] { isOpen = QApplication::activeModalWidget() != nullptr; });  // ms
   desktop.messageBox("Well ?", Buttons::ok);
-  EXPECT_FALSE(isUp);
+  EXPECT_FALSE(isOpen);
 }
 
 }  // namespace tessoro::test

@@ -19,7 +19,7 @@ TEST_F(MouseTest, ClickNeedsAPressAndAReleaseOverTheButton) {
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
 }
 
-TEST_F(MouseTest, ClickIsNotDisturbedByAnotherMouseButtonElsewhere) {
+TEST_F(MouseTest, AnotherMouseButtonDoesNotInterruptAClick) {
   press(Qt::LeftButton, button);
   press(Qt::RightButton, cell(9));
   release(Qt::RightButton, cell(9));
@@ -28,14 +28,15 @@ TEST_F(MouseTest, ClickIsNotDisturbedByAnotherMouseButtonElsewhere) {
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
 }
 
-TEST_F(MouseTest, ChangeOfACellRedrawsNextToNothingElse) {
+TEST_F(MouseTest, ChangedCellRedrawsLittleElse) {
   screen(view);
   const long before = view.drawnControls();
   cell(17).caption = "5";
   settle();
   screen(view);
   EXPECT_GE(view.drawnControls() - before, 1);
-  EXPECT_LE(view.drawnControls() - before, 6) << "the frame, the cell and what its edges touch";
+  EXPECT_LE(view.drawnControls() - before, 6)
+      << "the cell, the frame and the cells that it touches";
 }
 
 }  // namespace tessoro::test

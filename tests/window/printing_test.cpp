@@ -4,11 +4,11 @@
 
 namespace tessoro::test {
 
-/// Printing where there is no printer. The folder where the program starts is the user's home.
+/// Printing without a printer, from a program started in the user's home folder.
 struct PrintTest : WindowTest {
   QDir folder{QString(qgetenv("HOME"))};
-  QString saveAs;   ///< what the user names the file, if he does not cancel
-  QString offered;  ///< the name that the dialog has at first
+  QString saveAs;   ///< the file name that the user enters; empty to cancel
+  QString offered;  ///< the name that the dialog suggests
 
   PrintTest() {
     folder.removeRecursively();
@@ -26,14 +26,14 @@ struct PrintTest : WindowTest {
     // After one answer, the user cancels.
     QMetaObject::invokeMethod(&dialog, std::exchange(saveAs, "").isEmpty() ? "reject" : "accept");
   }
-  /// Prints the page, and returns what boxes say after the question whether to.
+  /// Prints the page and returns the texts of the boxes after "Print Puzzle No(s)".
   QStringList print(const QString& name = {}) {
     saveAs = name;
     boxes.clear();
     choose("Print");
     return boxes.mid(1);
   }
-  /// Writes a file, in which HERE is the folder.
+  /// Writes a file, with HERE replaced by the folder.
   void write(const QString& name, QString text = {}) const {
     QFile file(name);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -56,7 +56,7 @@ struct PrintTest : WindowTest {
   }
 };
 
-TEST_F(PrintTest, SavesThePageAndNothingBesideIt) {
+TEST_F(PrintTest, SavesThePageAndNoOtherFile) {
   print("saved");
   expectThePage("saved.pdf", "(A4)");
   QStringList files;
@@ -65,13 +65,13 @@ TEST_F(PrintTest, SavesThePageAndNothingBesideIt) {
   EXPECT_EQ(files, QStringList("./saved.pdf"));
 }
 
-TEST_F(PrintTest, FileThatIsThereIsLeftAloneByDefault) {
+TEST_F(PrintTest, ExistingFileIsKeptByDefault) {
   write("saved.pdf", "old");
   EXPECT_EQ(print("saved").value(2), "saved.pdf is already there: replace it?");
   EXPECT_EQ(output("cat", {"saved.pdf"}), "old");
 }
 
-/// A print server of the test's own, with one printer.
+/// Printing on the one printer of a print server that the test starts.
 struct PrinterTest : PrintTest {
   QProcess server;
 
@@ -91,12 +91,12 @@ struct PrinterTest : PrintTest {
   void TearDown() override { server.close(); }
 };
 
-TEST_F(PrinterTest, UsualPrinterGetsThePage) {
+TEST_F(PrinterTest, DefaultPrinterGetsThePage) {
   EXPECT_EQ(print(), QStringList());
   expectThePage("spool/d00001-001", "(A4)");
 }
 
-TEST_F(PrinterTest, StoppedPrinterIsTold) {
+TEST_F(PrinterTest, StoppedPrinterIsReported) {
   output("/usr/sbin/cupsdisable", {"B"});
   EXPECT_EQ(print(), QStringList("The printer is stopped; the page waits for it."));
 }

@@ -5,17 +5,17 @@
 
 namespace tessoro::test {
 
-/// Somebody who uses the mouse, the keys and a screen reader's actions at random.
+/// A player who uses the mouse, the keys and a screen reader's actions at random.
 struct WindowPlayerTest : ClientTest {
   std::mt19937 random{std::random_device{}()};
   QString done;           ///< the last event, in words
-  int pressed = 0;        ///< the cell of the grid that it may have pressed
-  bool ring = false;      ///< the keys have been used since the mouse
-  QStringList sentences;  ///< what has been spoken since
+  int pressed = 0;        ///< the cell of the grid that it may have changed
+  bool ring = false;      ///< the keys have been used since the last click
+  QStringList sentences;  ///< spoken since the last event
 
   int below(qsizetype end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
   auto anyOf(const auto& list) { return *(std::begin(list) + below(std::ssize(list))); }
-  /// The grid's cell at a place; 0 for none, and near edges, where another may lie over it.
+  /// The grid's cell at a place; 0 for none and near edges, where cells overlap.
   int cellAt(QPoint place) {
     const int edge = qCeil(3 * zoom());
     const QMargins margins(edge, edge, edge, edge);
@@ -44,7 +44,7 @@ struct WindowPlayerTest : ClientTest {
     const QChar it = anyOf(QString("123456789+-*rctlnN"));
     done = QString("type ") + it;
     pressed = it.isLetter() ? 0 : focusedCell();
-    // The button is in no row or column; what only a client can give the focus takes nothing.
+    // The button has no row or column. Controls that only a client can focus accept no key.
     const QWidget* focus = QApplication::focusWidget();
     const bool isButton = focus != nullptr && focus->focusPolicy() != Qt::NoFocus;
     ring = ring || focusedCell() != 0 || (isButton && it != 'r' && it != 'c');
@@ -64,11 +64,17 @@ struct WindowPlayerTest : ClientTest {
     pressed = 0;
     choose(done);
   }
+  void changeTheZoom() {
+    const auto key = anyOf(std::array{Qt::Key_Plus, Qt::Key_Minus, Qt::Key_0});
+    done = "Ctrl and " + QDebug::toString(key);
+    pressed = 0;
+    tap(key, Qt::ControlModifier);
+  }
   void doSomething() {
     using Player = WindowPlayerTest;
     constexpr std::array usual{&Player::clickAnywhere, &Player::tapAKey, &Player::typeACharacter};
-    constexpr std::array rare{&Player::actAsAClient, &Player::actAsAClient,
-                              &Player::chooseACommand};
+    constexpr std::array rare{&Player::actAsAClient, &Player::chooseACommand,
+                              &Player::changeTheZoom};
     (this->*anyOf(below(5) > 0 ? usual : rare))();
     sentences += said();
     window.activateWindow();  // as a window manager does when a box closes
@@ -76,9 +82,9 @@ struct WindowPlayerTest : ClientTest {
   }
 };
 
-TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
+TEST_F(WindowPlayerTest, ScreenClientAndVoiceAlwaysMatchTheGame) {
   onBox = [&](Box box) {
-    // A sentence that a box cuts off is read before its text.
+    // A sentence that the box would cut off is read with its text.
     const QString read = box.label()->accessibleName();
     if (read != box.label()->text()) sentences += read;
     box.firstButton()->click();
@@ -88,8 +94,8 @@ TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
     const std::string look = Invariants::look(game);
     sentences.clear();
     doSomething();
-    SCOPED_TRACE(done.toStdString() + " was done to\n" + look);
-    // The game's own rules hold.
+    SCOPED_TRACE(done.toStdString() + " on\n" + look);
+    // The game's own rules are kept.
     const bool changed = Invariants::look(game) != look;
     const std::string sentence = sentences.value(0).toStdString();
     EXPECT_EQ(invariants.broken(changed ? pressed : 0, sentence), "");
@@ -97,9 +103,9 @@ TEST_F(WindowPlayerTest, WhatIsSeenReadAndSaidIsTheGame) {
     EXPECT_EQ(difference(ring ? focused() : nullptr), "");
     // The title is the form's.
     EXPECT_EQ(window.windowTitle(), QString::fromStdString(game.form.caption()));
-    // A client that asks only when it is told of something new knows all names and states.
+    // A client that asks only after an event knows all names and states.
     EXPECT_EQ(client.mistake(), "");
-    // A press on any cell but a hole is answered, and nothing is by more than one sentence.
+    // Exactly one sentence follows a press on any cell but a hole, at most one any other event.
     const bool isAnswered = pressed != 0 && roleOf(pressed) != CellRole::hole;
     EXPECT_GE(sentences.size(), isAnswered ? 1 : 0);
     EXPECT_LE(sentences.size(), 1) << sentences.join(" | ").toStdString();

@@ -20,7 +20,7 @@ namespace tessoro::test {
 
 inline char* programPath = nullptr;
 
-/// The digits of a known puzzle, whose corners are 7, 1, 3 and 8; after that, random ones.
+/// Digits that first make a puzzle with the corners 7, 1, 3 and 8, then random ones.
 struct KnownDigits final : Digits {
   explicit KnownDigits(platform::Desktop& desktop) : random(desktop) {}
   int draw() override { return next < 9 ? "771534952"[next++] - '0' : random.draw(); }
@@ -29,7 +29,7 @@ struct KnownDigits final : Digits {
   int next = 0;
 };
 
-/// A modal box as the player meets it.
+/// A modal box.
 struct Box {
   QWidget& widget;
 
@@ -42,22 +42,16 @@ struct Box {
   QPushButton* firstButton() const { return widget.findChild<QPushButton*>(); }
 };
 
-/// Names a row of a table of tests.
-template <typename Row>
-std::string nameOf(const testing::TestParamInfo<Row>& row) {
-  return row.param.name;
-}
-
-/// The program in a window, started as main() starts it: the first puzzle is there before the
-/// window is. Each test has a desktop of its own, whose keyboard has no key down.
+/// The program in a window, started as main() does: it makes the first puzzle before the window.
+/// Each test has a desktop of its own, so no key is held and no box is open.
 struct WindowTest : testing::Test {
   qt::QtDesktop desktop{programPath, program()};
   KnownDigits digits{desktop};
   Game game{desktop, digits};
   qt::FormWindow& window = start();
   qt::FormView& view = window.view();
-  QStringList boxes;  ///< the texts of the boxes that have come up
-  /// Works the modal box that has come up.
+  QStringList boxes;  ///< the texts of the boxes that have opened
+  /// Answers the modal box that has opened.
   std::function<void(Box)> onBox = [](Box box) { box.firstButton()->click(); };
   ulong time = 1000;  ///< of the keyboard, milliseconds
   QTimer watch;
@@ -82,7 +76,7 @@ struct WindowTest : testing::Test {
     game.startUp.Form_Load();
     return desktop.show(game.form, game.narrator.firstPuzzle());
   }
-  /// Has all events processed, also those that others bring about.
+  /// Processes all pending events and those that follow from them.
   static void settle() {
     for (int round = 0; round < 3; ++round) QApplication::processEvents();
   }
@@ -90,14 +84,14 @@ struct WindowTest : testing::Test {
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
   QString caption(int index) { return QString::fromStdString(cell(index).caption()); }
   double zoom() const { return qRound(view.width() / 302.4 * 4) / 4.0; }
-  /// Where a control of the frame, which begins at (60, 60) twips, lies in the client area.
+  /// The place of a control of the frame, which begins at (60, 60) twips, in the client area.
   QRect rectOf(const platform::Control& control) const {
     const auto edge = [this](int twips) { return qRound((60 + twips) / 15.0 * zoom()); };
     const auto& [left, top, width, height] = control.place;
     const QPoint end(edge(left + width), edge(top + height));
     return {QPoint(edge(left), edge(top)), end - QPoint(1, 1)};
   }
-  /// The control of the frame that has the focus, if any has.
+  /// The control of the frame that has the focus; null if none.
   const platform::Control* focused() const {
     if (QApplication::focusWidget() == nullptr) return nullptr;
     for (const auto& it : game.form.Frame1.controls) {
@@ -107,7 +101,7 @@ struct WindowTest : testing::Test {
     }
     return nullptr;
   }
-  /// The cell of the grid that has the focus; 0 where it is beside the grid.
+  /// The cell of the grid that has the focus; 0 if none.
   int focusedCell() {
     int index = gridCells;
     while (index > 0 && &cell(index) != focused()) --index;

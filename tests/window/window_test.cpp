@@ -14,14 +14,14 @@ TEST_F(WindowTest, ControlsMayOutliveIt) {
 struct MaximisedTest : WindowTest {
   const QSize own = window.size();
 
-  /// As title bars that Qt draws do.
+  /// As the title bars that Qt draws do.
   void maximise() const {
     window.windowHandle()->setWindowStates(Qt::WindowMaximized);
     settle();
   }
 };
 
-TEST_F(MaximisedTest, BoardStaysAtTheTopLeftWhereADesktopInsists) {
+TEST_F(MaximisedTest, BoardStaysAtTheTopLeftIfTheDesktopInsists) {
   maximise();
   maximise();
   EXPECT_GT(window.width(), 2 * own.width());

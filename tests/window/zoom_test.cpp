@@ -12,7 +12,7 @@ struct ZoomTest : ClientTest {
   }
 };
 
-TEST_F(ZoomTest, EachStepDrawsAndPressesEverythingWhereItBelongs) {
+TEST_F(ZoomTest, EachStepMovesPictureAndMouseTogether) {
   for (const double factor : {1.25, 1.5, 2.0, 2.5, 3.0, 4.0}) {
     zoomIn();
     EXPECT_EQ(zoom(), factor);
@@ -30,7 +30,7 @@ TEST_F(ZoomTest, StepsAreSpoken) {
   EXPECT_EQ(said(), QStringList({"125 percent", "100 percent", "Smallest"}));
 }
 
-TEST_F(ZoomTest, WheelStepsBackAndForth) {
+TEST_F(ZoomTest, WheelStepsUpAndDown) {
   turnWheel(120);
   EXPECT_EQ(zoom(), 1.25);
   turnWheel(-120);

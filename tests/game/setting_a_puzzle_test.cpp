@@ -2,8 +2,8 @@
 
 namespace tessoro::test {
 
-struct StatingAPuzzleTest : GameTest {
-  StatingAPuzzleTest() {
+struct SettingAPuzzleTest : GameTest {
+  SettingAPuzzleTest() {
     press(17);
     choose("Set a Puzzle for computer to solve");
   }
@@ -12,7 +12,7 @@ struct StatingAPuzzleTest : GameTest {
   }
 };
 
-TEST_F(StatingAPuzzleTest, AsksForTheCornersOfAnEmptyBoard) {
+TEST_F(SettingAPuzzleTest, AsksForTheCornersOfAnEmptyBoard) {
   EXPECT_EQ(grid(),
             "? . . . . = ?\n"
             ". # . # . # .\n"
@@ -24,14 +24,14 @@ TEST_F(StatingAPuzzleTest, AsksForTheCornersOfAnEmptyBoard) {
   EXPECT_EQ(corners(), ". . . .");
 }
 
-TEST_F(StatingAPuzzleTest, SolvePuzzleShowsASolutionWithTheStatedCorners) {
+TEST_F(SettingAPuzzleTest, SolvePuzzleShowsASolutionWithThoseCorners) {
   state("7138");
-  nextDigits = "971534952";  // the first is drawn for nothing: that corner is stated
+  nextDigits = "971534952";  // the first digit is not used, because that corner is set
   click(form.Solveit);
   EXPECT_EQ(grid(), solution);
 }
 
-TEST_F(StatingAPuzzleTest, AnyPressLetsTheSameCornersBeSolvedAgain) {
+TEST_F(SettingAPuzzleTest, AnyPressEnablesSolvePuzzleAgain) {
   state("7138");
   click(form.Solveit);
   EXPECT_FALSE(form.Solveit.enabled());
@@ -39,13 +39,13 @@ TEST_F(StatingAPuzzleTest, AnyPressLetsTheSameCornersBeSolvedAgain) {
   EXPECT_TRUE(form.Solveit.enabled());
 }
 
-TEST_F(StatingAPuzzleTest, SearchIsGivenUpAfter500Attempts) {
+TEST_F(SettingAPuzzleTest, SearchGivesUpAfter500Attempts) {
   state("1439");
   failNextSearch(501);
   click(form.Solveit);
   EXPECT_EQ(lastSaid(), "Cannot Solve This Time ! [OK]");
-  EXPECT_EQ(nextDigits, failingDigits) << "left of the 501st attempt";
-  EXPECT_EQ(game.state.PuzzleNo, 1) << "the number is not used up";
+  EXPECT_EQ(nextDigits, failingDigits) << "left for a 501st attempt";
+  EXPECT_EQ(game.state.PuzzleNo, 1) << "a failed search uses no number";
 }
 
 }  // namespace tessoro::test
