@@ -90,7 +90,7 @@ std::string Narrator::changesSince(const Heard& before) const {
 
 std::string Narrator::whyNotSet(int cell) const {
   if (state_.SolveMode) {
-    if (!state_.BoardLocked) return "Only corners are set in this mode";
+    if (!state_.BoardLocked) return "Only the corners can be set in this mode";
     return form_.Solveit.enabled() ? "Press Solve Puzzle to solve it again" : whyNotSolved();
   }
   if (form_.board.GridDisp[cell].enabled()) return "The puzzle is over";
@@ -98,11 +98,11 @@ std::string Narrator::whyNotSet(int cell) const {
     case CellRole::number:
       return "This number is given";
     case CellRole::equals:
-      return "Nothing is set here";
+      return "This cell cannot be set";
     case CellRole::outerCorner:
-      return "This is the number to reach";
+      return "This is the corner's target";
     default:
-      return "Results are worked out, not set";
+      return "Results are calculated";
   }
 }
 
@@ -113,9 +113,9 @@ std::string Narrator::whyNotSolved() const {
 }
 
 void Narrator::explainTyping(int cell) {
-  say(cell == 0                                ? "Nothing is set here"
-      : roleOf(cell) == CellRole::operatorSign ? "Plus, minus or times is set here"
-                                               : "A digit from 1 to 9 is set here");
+  say(cell == 0                                ? "This button cannot be set"
+      : roleOf(cell) == CellRole::operatorSign ? "Type plus, minus or times here"
+                                               : "Type a digit from 1 to 9 here");
 }
 
 void Narrator::explainNoneEmpty() {
@@ -142,7 +142,7 @@ std::string Narrator::randomStart() const {
 
 std::string Narrator::modeSwitched() const {
   return state_.SolveMode ? "Set each corner to its number, then press Solve Puzzle"
-                          : "Back from setting puzzles. Press New Puzzle to play on";
+                          : "Puzzle setting is off. Press New Puzzle to play on";
 }
 
 }  // namespace tessoro

@@ -110,7 +110,7 @@ Accessible describedCell(int index, const Board& board) {
 
 void describeCorner(int k, Board& board) {
   const auto name = [k, &board] { return describe(CornerCells[k], board) + standing(board, k); };
-  // The user sets the corners' numbers when stating a puzzle.
+  // The user sets the corners' numbers in the mode that sets a puzzle.
   board.GridDisp[CornerCells[k]].accessible = {
       Accessible::Role::button, name, {press, decrease}, true};
   Cell& target = board.GridDisp[OuterCornerCells[k]];

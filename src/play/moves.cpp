@@ -53,7 +53,7 @@ bool Moves::isOperator(int index) const {
 }
 
 void Moves::setCell(int index, const std::string& caption) {
-  // While a puzzle is stated, an event on any cell wakes the button, even if nothing is set.
+  // While the user sets a puzzle, an event on any cell enables the button, even if nothing is set.
   if (state_.SolveMode) Solveit_.enabled = true;
   Cell& cell = board_.GridDisp[index];
   if (!canSet(index) || cell.caption() == caption) return;

@@ -12,7 +12,7 @@
 namespace tessoro {
 
 /// Handlers of mouse presses and typed characters on the board. In play they make the player's
-/// moves; while the user states a puzzle, they set the corners' numbers.
+/// moves; while the user sets a puzzle, they set the corners' numbers.
 class Moves {
  public:
   Moves(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -29,7 +29,7 @@ class Moves {
   void GridDisp_MouseDown(int Index, const platform::MousePress& press);
 
   /// Returns whether cell 0..53 can be set now: in play a number or an operator, until the puzzle
-  /// is over, and while the user states a puzzle a corner.
+  /// is over, and while the user sets a puzzle a corner.
   bool canSet(int index) const;
   /// Returns whether the character fits into a cell that can be set: an operator into an operator
   /// cell, a digit 1..9 into any other.

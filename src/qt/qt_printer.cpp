@@ -43,7 +43,7 @@ constexpr int timeToAnswer = 10000;  ///< for the print system
 constexpr int timeUntilBox = 200;    ///< a wait too short to need a box
 
 constexpr std::string_view notSent =
-    "The page could not be sent to the printer; it can be printed again.";
+    "The page could not be sent to the printer. You can print it again.";
 
 QPageSize usualPaper() {
   const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
@@ -153,14 +153,13 @@ std::string_view QtPrinter::sendToPrinter(const QString& printer, const QByteArr
   const std::optional<QString> job =
       ask("lp", {"-d", printer, "-t", documentName_, file.fileName()}, window_);
   if (!job) {
-    return "It is not known whether the printer has got the page: look for it there before you "
-           "print it again.";
+    return "The printer may already have the page. Look there before you print it again.";
   }
   return job->isEmpty() ? notSent : "";
 }
 
 std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
-  messageBox_("No printer was found; the page can be saved as PDF.", Buttons::ok);
+  messageBox_("No printer was found; you can save the page as a PDF file.", Buttons::ok);
   QFileDialog dialog(window_, "Save the page as PDF", {}, "PDF (*.pdf)");
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
@@ -174,7 +173,7 @@ std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
     if (runModal(dialog) != QDialog::Accepted) return {};
     target.setFile(dialog.selectedFiles().first());
   } while (target.exists() &&
-           messageBox_((target.fileName() + " is already there: replace it?").toStdString(),
+           messageBox_((target.fileName() + " already exists. Replace it?").toStdString(),
                        Buttons::yesNoDefaultNo) != Answer::yes);
   QSaveFile file(target.filePath());
   // Flushed first, because commit() does not report a full disk.
@@ -182,7 +181,7 @@ std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
       file.commit()) {
     return {};
   }
-  return "The page could not be saved there; it can be printed again.";
+  return "The page could not be saved there. You can print it again.";
 }
 
 }  // namespace qt

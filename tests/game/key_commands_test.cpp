@@ -37,7 +37,7 @@ TEST_F(KeyCommandsTest, ButtonHasNoRowOrColumnAndCannotBeSet) {
   EXPECT_FALSE(type(form.NewPuz, 'r'));
   EXPECT_FALSE(type(form.NewPuz, 'c'));
   EXPECT_TRUE(type(form.NewPuz, '5'));
-  EXPECT_EQ(desktop.said, Log{"Nothing is set here"});
+  EXPECT_EQ(desktop.said, Log{"This button cannot be set"});
 }
 
 /// A screen reader can give the focus to the targets beside the grid.

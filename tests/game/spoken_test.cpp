@@ -63,12 +63,12 @@ INSTANTIATE_TEST_SUITE_P(
     testing::PrintToStringParamName());
 INSTANTIATE_TEST_SUITE_P(
     Refuses, KeyTest,
-    testing::Values(Key{"TimesOnANumber", 17, '*', "A digit from 1 to 9 is set here"},
-                    Key{"ZeroOnANumber", 17, '0', "A digit from 1 to 9 is set here"},
-                    Key{"ADigitOnAnOperator", 46, '5', "Plus, minus or times is set here"},
+    testing::Values(Key{"TimesOnANumber", 17, '*', "Type a digit from 1 to 9 here"},
+                    Key{"ZeroOnANumber", 17, '0', "Type a digit from 1 to 9 here"},
+                    Key{"ADigitOnAnOperator", 46, '5', "Type plus, minus or times here"},
                     Key{"TheGivenNumber", 1, '5', "This number is given"},
-                    Key{"AnEqualsSign", 36, '5', "Nothing is set here"},
-                    Key{"AResult", 45, '5', "Results are worked out, not set"}),
+                    Key{"AnEqualsSign", 36, '5', "This cell cannot be set"},
+                    Key{"AResult", 45, '5', "Results are calculated"}),
     testing::PrintToStringParamName());
 
 }  // namespace tessoro::test

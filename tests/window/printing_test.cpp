@@ -67,7 +67,7 @@ TEST_F(PrintTest, SavesThePageAndNoOtherFile) {
 
 TEST_F(PrintTest, ExistingFileIsKeptByDefault) {
   write("saved.pdf", "old");
-  EXPECT_EQ(print("saved").value(2), "saved.pdf is already there: replace it?");
+  EXPECT_EQ(print("saved").value(2), "saved.pdf already exists. Replace it?");
   EXPECT_EQ(output("cat", {"saved.pdf"}), "old");
 }
 
