@@ -9,8 +9,8 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 clang=19
 
 install_tools() {
-  install_packages dpkg-dev lintian devscripts desktop-file-utils appstream imagemagick \
-    libbenchmark-dev libxcb1-dev
+  install_packages dpkg-dev lintian devscripts desktop-file-utils appstream \
+    imagemagick xdotool xvfb libbenchmark-dev libxcb1-dev
   if ! dpkg-checkbuilddeps 2>/dev/null; then apt_get build-dep --no-install-recommends .; fi
   local tool
   for tool in "clang-$clang" "clang-format-$clang" "clang-tidy-$clang"; do
