@@ -40,6 +40,8 @@ TEST_F(NewPuzzleTest, StartASolutionFillsTheBoardAtRandomAndContinuesPlay) {
             "= # = # = # =\n"
             "? + 3 + 8 = ?\n");
   EXPECT_EQ(corners(), ":) 1 3 8");
+  press(17);
+  EXPECT_EQ(caption(17), "2");
 }
 
 }  // namespace tessoro::test

@@ -7,7 +7,7 @@ struct SettingAPuzzleTest : GameTest {
     press(17);
     choose("Set a Puzzle for computer to solve");
   }
-  void state(const std::string& corners) {
+  void setCorners(const std::string& corners) {
     for (int k = 1; k <= 4; ++k) turnTo(CornerCells[k], corners.substr(k - 1, 1));
   }
 };
@@ -25,22 +25,23 @@ TEST_F(SettingAPuzzleTest, AsksForTheCornersOfAnEmptyBoard) {
 }
 
 TEST_F(SettingAPuzzleTest, SolvePuzzleShowsASolutionWithThoseCorners) {
-  state("7138");
+  setCorners("7138");
   nextDigits = "971534952";  // the first digit is not used, because that corner is set
   click(form.Solveit);
   EXPECT_EQ(grid(), solution);
 }
 
 TEST_F(SettingAPuzzleTest, AnyPressEnablesSolvePuzzleAgain) {
-  state("7138");
+  setCorners("7138");
   click(form.Solveit);
   EXPECT_FALSE(form.Solveit.enabled());
   press(3);
   EXPECT_TRUE(form.Solveit.enabled());
+  EXPECT_EQ(lastSaid(), "Press Solve Puzzle to solve it again");
 }
 
 TEST_F(SettingAPuzzleTest, SearchGivesUpAfter500Attempts) {
-  state("1439");
+  setCorners("1439");
   failNextSearch(501);
   click(form.Solveit);
   EXPECT_EQ(lastSaid(), "Cannot Solve This Time ! [OK]");

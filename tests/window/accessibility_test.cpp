@@ -19,6 +19,21 @@ TEST_F(AccessibilityTest, ClientsAreNotifiedOfNewNamesInTheFirstPuzzle) {
   EXPECT_TRUE(client.notified(QAccessible::NameChanged).contains("1, row 3 column 3"));
 }
 
+TEST_F(AccessibilityTest, NewNameOfTheFocusIsNotReadOutBesideTheSentence) {
+  act(cell(17), "SetFocus");
+  client.notified(QAccessible::Focus);
+  act(cell(17), "Press");
+  const auto silent = qt::hasAnnouncements ? QAccessible::Focus : QAccessible::NameChanged;
+  EXPECT_EQ(client.notified(silent).filter("row 3 column 3"), QStringList("1, row 3 column 3"));
+}
+
+TEST_F(AccessibilityTest, FocusIsReportedAgainAfterAMenuCommand) {
+  act(cell(16), "SetFocus");
+  client.notified(QAccessible::Focus);
+  choose("Set a Puzzle for computer to solve");
+  EXPECT_EQ(client.notified(QAccessible::Focus), QStringList("empty, row 3 column 2"));
+}
+
 TEST_F(AccessibilityTest, ClientsAreNotifiedOfNewStatesInTheFirstPuzzle) {
   choose("Set a Puzzle for computer to solve");
   const QStringList corners{"not set, row 1 column 1", "not set, row 1 column 7"};

@@ -11,11 +11,6 @@ struct HelpTest : ClientTest {
     help = dynamic_cast<qt::HelpWindow*>(QApplication::activeWindow());
     text = help->findChild<QTextBrowser*>();
   }
-  QToolButton* button(const QString& caption) const {
-    for (auto* it : help->findChildren<QToolButton*>())
-      if (it->text() == caption) return it;
-    return nullptr;
-  }
   int scrolled() const { return text->verticalScrollBar()->value(); }
   void followTheFirstLink() {
     tap(Qt::Key_Tab);
