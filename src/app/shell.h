@@ -6,7 +6,7 @@
 
 namespace tessoro {
 
-/// The menu commands that do not concern the puzzle.
+/// Menu commands that do not concern the puzzle.
 class Shell {
  public:
   Shell(const platform::Form& form, platform::Desktop& desktop) : form_(form), desktop_(desktop) {}
@@ -15,7 +15,7 @@ class Shell {
   void Helpx_Click() {
     desktop_.helpViewer().WinHelpA(form_, "qaviro.hlp", platform::HELP_CONTENTS, 0);
   }
-  /// Shows the About box and returns when it has been closed.
+  /// Shows the About box and returns when the player has closed it.
   void Aboutx_Click() {
     AboutForm box;
     desktop_.showModal(box);

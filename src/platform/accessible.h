@@ -13,7 +13,7 @@ namespace platform {
 struct Accessible {
   enum class Role { none, label, button, image };
 
-  /// Named action on an enabled control. It presses the mouse button on the control.
+  /// Named action of an enabled control, which presses a mouse button on it.
   struct Action {
     std::string_view name;
     MouseButton button = MouseButton::left;

@@ -30,7 +30,7 @@ class ControlWidget final : public QWidget {
   /// or hidden and what has the focus.
   void notifyClients();
   /// Presses and releases a mouse button on the control after the caller has returned. An
-  /// accessibility client that waited for the press could not answer a message box opened by it.
+  /// accessibility client that had to wait for the press could not answer a box that it opens.
   void pressLater(platform::MouseButton button);
 
  protected:
