@@ -42,7 +42,6 @@ void reportAllocations(benchmark::State& run, long before) {
                                                    benchmark::Counter::kAvgIterations);
 }
 
-/// Source of digits that counts its draws.
 class CountingDigits final : public tessoro::Digits {
  public:
   explicit CountingDigits(platform::Desktop& desktop) : digits_(desktop) {}

@@ -11,7 +11,6 @@ class Shell {
  public:
   Shell(const platform::Form& form, platform::Desktop& desktop) : form_(form), desktop_(desktop) {}
 
-  /// Opens the help file at its contents.
   void Helpx_Click() {
     desktop_.helpViewer().WinHelpA(form_, "qaviro.hlp", platform::HELP_CONTENTS, 0);
   }
@@ -20,7 +19,6 @@ class Shell {
     AboutForm box;
     desktop_.showModal(box);
   }
-  /// Ends the program at once.
   void Exitx_Click() { desktop_.endProgram(); }
 
  private:

@@ -15,8 +15,8 @@ constexpr platform::Colour ColWhite = platform::palette[15];
 
 /// State of the puzzle. The player's position is in the board's captions instead.
 struct PuzzleState {
-  /// Numbers of the solution, four to a matrix row, each a digit 1..9 with a leading blank (" 7"),
-  /// and its operators "+", "-" or "*": 1..8 of the rows, 9..16 of the columns. Their cells are
+  /// Solution: its numbers, four a matrix row, each a digit 1..9 after a blank (" 7"), and its
+  /// operators "+", "-" or "*", 1..8 those of the rows, 9..16 those of the columns. Their cells are
   /// `numberCells` and `operatorCells`; element 0 is unused.
   std::array<std::string, 17> SolNumbers;
   std::array<std::string, 17> SolOperators;

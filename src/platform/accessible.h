@@ -22,7 +22,7 @@ struct Accessible {
   Role role = Role::none;             ///< `none` hides the control
   std::function<std::string()> name;  ///< returns the current description
   std::vector<Action> actions;
-  /// Whether the control belongs to a grid: arrow keys move within it, and it is one Tab stop.
+  /// Whether the control belongs to a grid. Arrow keys move within the grid, which is one Tab stop.
   bool inGrid = false;
 };
 

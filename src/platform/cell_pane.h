@@ -9,7 +9,7 @@
 
 namespace platform {
 
-/// Display cell: a short text with its own colours and border that reports mouse and key input.
+/// Display cell: a short text with its own colours and border. It reports mouse and key input.
 ///
 /// The window passes on every mouse press and release, and the cell decides which become events:
 /// none while it is disabled or hidden. A cell with a `click` handler is a button, whose caption is
