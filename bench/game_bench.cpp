@@ -42,7 +42,6 @@ void reportAllocations(benchmark::State& run, long before) {
                                                    benchmark::Counter::kAvgIterations);
 }
 
-/// Source of digits that counts its draws.
 class CountingDigits final : public tessoro::Digits {
  public:
   explicit CountingDigits(platform::Desktop& desktop) : digits_(desktop) {}
@@ -62,8 +61,8 @@ double secondsFor(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-/// A search with free corners. `to_draws` is its time divided by that of its draws alone, which
-/// includes their clock readings.
+/// A search with free corners. `to_draws` is its time divided by the time of its draws alone. Each
+/// draw reads the clock.
 void freeSearch(benchmark::State& run) {
   Bench bench;
   const long before = allocations;
@@ -100,8 +99,8 @@ void searchWithFourCornersFixed(benchmark::State& run) {
 }
 BENCHMARK(searchWithFourCornersFixed);
 
-/// All 500 attempts fail, because 12 is not a digit, at the same stage as for corners that are hard
-/// to match.
+/// All 500 attempts fail, because 12 is not a digit. They fail at the same stage as for corners
+/// that are hard to match.
 void searchThatGivesUp(benchmark::State& run) {
   Bench bench;
   bench.fixCorners({1, 9, 8, 12});
@@ -118,7 +117,7 @@ void oneAttempt(benchmark::State& run) {
 }
 BENCHMARK(oneAttempt);
 
-/// The least an attempt needs: the nine draws of its first three rows.
+/// The minimum for an attempt: the nine draws of its first three rows.
 void nineDraws(benchmark::State& run) {
   Bench bench;
   for (auto _ : run) {

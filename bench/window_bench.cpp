@@ -49,7 +49,6 @@ class RootWindow {
       std::free(event);
     }
   }
-  /// Discards pending events.
   void drain() {
     while (xcb_generic_event_t* event = xcb_poll_for_event(connection_)) std::free(event);
   }
@@ -177,7 +176,7 @@ void searchThatGivesUp(benchmark::State& run) {
 }
 BENCHMARK(searchThatGivesUp)->Unit(benchmark::kMillisecond);
 
-/// Growth in resident memory from puzzle and move 1,000 to 100,000.
+/// Growth of resident memory between 1,000 and 100,000 puzzles, with one move in each.
 void memoryGrowth(benchmark::State& run) {
   Shown shown;
   const auto play = [&](int times) {

@@ -5,7 +5,7 @@
 
 namespace tessoro {
 
-/// The About box. Its button, a mouse button pressed over its text and its close command close it.
+/// About box. Its button, any mouse button pressed over its text, and its close command close it.
 class AboutForm final : public platform::Form {
  public:
   AboutForm();

@@ -42,16 +42,15 @@ void Game::connectEvents() {
     });
     cell.refused = unlessSearching([this, index] { narrator.explainRefusal(index); });
   }
-  const auto takeCharacters = [&](Cell& cell, int index) {
+  const auto connectTyping = [&](Cell& cell, int index) {
     cell.typed = unlessSearching([this, index](char character, bool shift) {
       return keyCommands.typed(index, character, shift);
     });
   };
-  // Cells beside the grid can get the focus from a screen reader, but have no row or column.
-  for (int index = 1; index <= gridCells; ++index)
-    takeCharacters(form.board.GridDisp[index], index);
-  takeCharacters(form.NewPuz, 0);
-  takeCharacters(form.Solveit, 0);
+  // A screen reader can also give the focus to the targets, but these have no row or column.
+  for (int index = 1; index <= gridCells; ++index) connectTyping(form.board.GridDisp[index], index);
+  connectTyping(form.NewPuz, 0);
+  connectTyping(form.Solveit, 0);
   form.Solveit.refused = unlessSearching([this] { narrator.explainDisabledSolveit(); });
   form.edgeReached = unlessSearching([this] { narrator.say("Edge of the board"); });
 

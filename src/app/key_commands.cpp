@@ -10,13 +10,13 @@ namespace {
 
 using platform::MouseButton;
 
-/// Returns the operator that a letter stands for, so that plus and times need no Shift key.
+/// Returns the operator for P and X, which need no Shift key; any other character as it is.
 char withoutShift(char character) {
   return character == 'p' ? '+' : character == 'x' ? '*' : character;
 }
 
 /// Returns whether a player may expect the character to set a cell.
-bool isForSetting(char character) {
+bool isCellInput(char character) {
   return std::string_view("0123456789+-*").find(character) != std::string_view::npos;
 }
 
@@ -33,7 +33,7 @@ bool KeyCommands::typed(int index, char character, bool shift) {
     narrator_.say(spokenColumn(form_.board, columnOf(index)));
   } else if (character == 'n') {
     goToEmpty(index, shift);
-  } else if (const char text = withoutShift(character); isForSetting(text)) {
+  } else if (const char text = withoutShift(character); isCellInput(text)) {
     set(index, text);
   } else {
     return false;
@@ -52,7 +52,7 @@ void KeyCommands::goToEmpty(int from, bool backwards) {
     const bool isEmpty = cell.caption().empty() || cell.caption() == noNumber;
     if (isEmpty && moves_.canSet(index)) return cell.SetFocus();
   }
-  narrator_.explainNoneEmpty();
+  narrator_.explainNoEmptyCell();
 }
 
 void KeyCommands::set(int index, char character) {

@@ -6,15 +6,14 @@
 
 namespace tessoro {
 
-/// Handlers of typed characters, which set a cell, read out part of the board, or move to the next
-/// empty cell. P types a plus and X a times sign.
+/// Commands of typed characters: set a cell, read out part of the board, go to the next empty cell.
 class KeyCommands {
  public:
   KeyCommands(Form1& form, Moves& moves, Narrator& narrator)
       : form_(form), moves_(moves), narrator_(narrator) {}
 
-  /// Handles a character, in lower case, typed on cell 1..49, or on a button with index 0. `shift`
-  /// says whether that key was down. Returns whether the character has a meaning there.
+  /// Handles a character, in lower case, typed on cell 1..49 or on a button (0). `shift` says
+  /// whether Shift was down. Returns whether the character has a meaning there.
   bool typed(int index, char character, bool shift);
 
  private:

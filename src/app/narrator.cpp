@@ -8,7 +8,7 @@
 namespace tessoro {
 namespace {
 
-/// Returns the line that ends in a result cell, in words; empty for other cells.
+/// Returns the name of the line that ends in a result cell; empty for other cells.
 std::string lineName(int cell) {
   switch (roleOf(cell)) {
     case CellRole::rowResult:
@@ -22,7 +22,7 @@ std::string lineName(int cell) {
   }
 }
 
-/// Returns what a result cell shows, as the end of a clause.
+/// Returns what follows the name of a line: " is 5", " has no value" or " is full, no digit".
 std::string changedValue(const std::string& result) {
   return result == noValue             ? " has no value"
          : isDigit(readNumber(result)) ? " is " + result
@@ -64,26 +64,26 @@ Narrator::Heard Narrator::heard() const {
   for (int cell = 1; cell <= gridCells; ++cell) {
     if (!lineName(cell).empty()) now.results[cell] = spokenCell(form_.board, cell);
   }
-  for (int k = 1; k <= 4; ++k) now.standings[k] = standing(form_.board, k);
+  for (int k = 1; k <= 4; ++k) now.corners[k] = cornerStatus(form_.board, k);
   return now;
 }
 
 std::string Narrator::changesSince(const Heard& before) const {
   const Heard now = heard();
-  if (before.standings[1].empty()) return ", no line has a value yet";
+  if (before.corners[1].empty()) return ", no line has a value yet";
   std::string words;
   for (int cell = 1; cell <= gridCells; ++cell) {
     const std::string& result = now.results[cell];
     if (result == before.results[cell]) continue;
     words += ", " + lineName(cell) + changedValue(result);
     const int k = cornerOf(cell);
-    // A corner that is still wrong: its new value helps only together with its target.
-    if (result != noValue && now.standings[k] == before.standings[k]) words += now.standings[k];
+    // The new value of a corner that is still wrong helps only together with its target.
+    if (result != noValue && now.corners[k] == before.corners[k]) words += now.corners[k];
   }
   for (int k = 1; k <= 4; ++k) {
-    if (now.standings[k] == before.standings[k]) continue;
+    if (now.corners[k] == before.corners[k]) continue;
     const bool isRight = form_.board.NPict[k].Visible();
-    words += ", " + cornerName(k) + (isRight ? " is correct" : " is wrong" + now.standings[k]);
+    words += ", " + cornerName(k) + (isRight ? " is correct" : " is wrong" + now.corners[k]);
   }
   return words;
 }
@@ -118,7 +118,7 @@ void Narrator::explainTyping(int cell) {
                                                : "Type a digit from 1 to 9 here");
 }
 
-void Narrator::explainNoneEmpty() {
+void Narrator::explainNoEmptyCell() {
   say(state_.BoardLocked && !state_.SolveMode ? "The puzzle is over" : "No other cell is empty");
 }
 

@@ -12,9 +12,8 @@
 
 namespace tessoro {
 
-/// Spoken feedback on presses and commands, for players who do not see the board: one sentence
-/// each, as short as possible, since they hear it a hundred times in a puzzle. The names of cells
-/// and buttons come from the controls instead.
+/// Spoken feedback on presses and commands, for players who do not see the board. They hear these
+/// sentences a hundred times in a puzzle, so each is as short as possible.
 class Narrator {
  public:
   using Sentence = std::function<std::string()>;
@@ -23,14 +22,14 @@ class Narrator {
            const SolutionSearch& search, platform::Desktop& desktop)
       : form_(form), state_(state), moves_(moves), search_(search), desktop_(desktop) {}
 
-  /// Makes a screen reader speak the sentence, unless it is empty.
+  /// Speaks the sentence with a screen reader, unless it is empty.
   void say(const std::string& sentence);
-  /// Says the last sentence again, or describes the first puzzle if there is none.
+  /// Repeats the last sentence, or describes the first puzzle if nothing has been said yet.
   void repeat();
 
   /// Runs an event's handler, then calls `outcome` and says what it returns.
   void narrate(const std::function<void()>& handler, Sentence outcome);
-  /// Says the outcome of the handler that is running, before the handler shows a message box.
+  /// Says the outcome of the running handler early, because the handler is about to show a box.
   void sayOutcome();
 
   /// Call before the press. The returned function, called after it, says what the press changed, or
@@ -41,27 +40,27 @@ class Narrator {
   void explainRefusal(int cell) { say(whyNotSet(cell)); }
   /// Says why a press on the disabled button "Solve Puzzle" did nothing.
   void explainDisabledSolveit() { say(whyNotSolved()); }
-  /// Says what can be typed on cell 1..49, or on a button with 0, after a character that cannot.
+  /// Says what can be typed on cell 1..49 or on a button (0), after a character that does not fit.
   void explainTyping(int cell);
-  /// Says why there is no empty cell to go to.
-  void explainNoneEmpty();
+  /// Says why the key N finds no empty cell.
+  void explainNoEmptyCell();
 
-  // The outcomes of commands; empty where a message box says enough.
+  // Outcomes of commands; empty if a message box has said enough.
   std::string firstPuzzle() const;   ///< of the search at the start
   std::string puzzleMade() const;    ///< of "New Puzzle"
   std::string puzzleSolved() const;  ///< of "Solve Puzzle"
   std::string randomStart() const;   ///< of "Start a Solution"
-  std::string modeSwitched() const;  ///< of entering or leaving the mode that sets puzzles
+  std::string modeSwitched() const;  ///< of entering or leaving set-a-puzzle mode
 
  private:
-  /// Results and corners as the player last heard them.
+  /// Results and corners as the player last heard them, in words.
   struct Heard {
-    std::array<std::string, gridCells + 1> results;  ///< in words, of the cells that are results
-    std::array<std::string, 5> standings;            ///< of the corners 1..4
+    std::array<std::string, gridCells + 1> results;  ///< empty if not a result
+    std::array<std::string, 5> corners;              ///< of the corners 1..4
   };
 
   Heard heard() const;
-  /// Returns what has changed on the board since then, each part after a comma.
+  /// Returns what has changed on the board since `before`, each change after a comma.
   std::string changesSince(const Heard& before) const;
   std::string whyNotSet(int cell) const;
   std::string whyNotSolved() const;
@@ -71,7 +70,7 @@ class Narrator {
   const Moves& moves_;
   const SolutionSearch& search_;
   platform::Desktop& desktop_;
-  Sentence outcome_;  ///< of the handler that is running, until it is said
+  Sentence outcome_;  ///< of the running handler, until it is said
   std::string last_;  ///< the last sentence said
 };
 

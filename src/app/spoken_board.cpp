@@ -26,7 +26,7 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 6> spokenSig
      {OpMinus, "minus"},
      {OpTimes, "times"}}};
 
-/// A row or a column of the grid: its first cell, and the step from each to the next.
+/// Row or column of the grid: its first cell, and the step from one cell to the next.
 struct Line {
   const Board& board;
   int first;
@@ -58,18 +58,19 @@ std::vector<Line> linesEndingIn(const Board& board, int cell) {
   return lines;
 }
 
-/// Returns the end of a line: its value and, if it ends in a corner, the corner's standing.
+/// Returns the end of a line in words: its value and, if it ends in a corner, the corner's status.
 std::string endOfLine(const Line& line) {
   const int result = line.cellAt(6);
   const int k = cornerOf(result);
   const std::string& caption = line.captionAt(6);
-  const std::string now = k == 0 ? "" : standing(line.board, k);
+  const std::string status = k == 0 ? "" : cornerStatus(line.board, k);
   if (readNumber(caption) != 0) {
-    // Before play has begun, what a corner shows is its target.
-    const bool isTarget = k != 0 && now.empty() && !line.isFull();
-    return isTarget ? ", " + std::string(noValue) + ", target " + caption : " is " + caption + now;
+    // Until play has begun, a corner shows its target.
+    const bool isTarget = k != 0 && status.empty() && !line.isFull();
+    return isTarget ? ", " + std::string(noValue) + ", target " + caption
+                    : " is " + caption + status;
   }
-  return ", " + (caption.empty() ? std::string(noValue) : spokenCell(line.board, result)) + now;
+  return ", " + (caption.empty() ? std::string(noValue) : spokenCell(line.board, result)) + status;
 }
 
 std::string spokenLine(const std::string& name, const Line& line) {
@@ -109,8 +110,10 @@ Accessible describedCell(int index, const Board& board) {
 }
 
 void describeCorner(int k, Board& board) {
-  const auto name = [k, &board] { return describe(CornerCells[k], board) + standing(board, k); };
-  // The user sets the corners' numbers in the mode that sets a puzzle.
+  const auto name = [k, &board] {
+    return describe(CornerCells[k], board) + cornerStatus(board, k);
+  };
+  // In set-a-puzzle mode, the user sets the corners.
   board.GridDisp[CornerCells[k]].accessible = {
       Accessible::Role::button, name, {press, decrease}, true};
   Cell& target = board.GridDisp[OuterCornerCells[k]];
@@ -137,7 +140,7 @@ std::string spoken(const std::string& caption) {
 std::string spokenCell(const Board& board, int cell) {
   const std::string& caption = board.GridDisp[cell].caption();
   if (caption != noNumber) return spoken(caption);
-  if (cornerOf(cell) != 0 && standing(board, cornerOf(cell)).empty()) return "not set";
+  if (cornerOf(cell) != 0 && cornerStatus(board, cornerOf(cell)).empty()) return "not set";
   bool full = false;
   for (const Line& line : linesEndingIn(board, cell)) {
     // The grand result has no value while another result has none.
@@ -151,7 +154,7 @@ std::string cornerName(int k) {
   return std::string(cornerNames[k]);
 }
 
-std::string standing(const Board& board, int k) {
+std::string cornerStatus(const Board& board, int k) {
   const Cell& target = board.GridDisp[OuterCornerCells[k]];
   if (board.NPict[k].Visible()) return ", correct";
   return target.Visible() ? ", target " + target.caption() : "";
@@ -169,7 +172,7 @@ std::string spokenCorners(const Board& board) {
   std::string words = "Corners:";
   for (int k = 1; k <= 4; ++k) {
     words += (k == 1 ? " " : ", ") + cornerName(k) + " " + spokenCell(board, CornerCells[k]) +
-             standing(board, k);
+             cornerStatus(board, k);
   }
   return words;
 }

@@ -14,15 +14,14 @@ constexpr bool isDigit(int value) {
   return value >= 1 && value <= 9;
 }
 
-/// Returns the longest decimal prefix after leading blanks, rounded half to even and clamped to
-/// 16 signed bits. Text without one, such as "", "?", "=" or an operator, reads as 0.
+/// Returns the decimal number that the text begins with, after any blanks, rounded half to even and
+/// clamped to 16 signed bits. Returns 0 if there is none, as in "", "?", "=" or an operator.
 std::int16_t readNumber(std::string_view caption);
 
 /// Returns the number in decimal without blanks, as captions show it.
 std::string numberText(int number);
 
-/// Returns the number, 0 or more, with a blank in place of a minus sign, as the solution and the
-/// page headings store it.
+/// Returns the number, 0 or more, after a blank, as the solution and the page headings store it.
 std::string signedNumberText(int number);
 
 /// Returns the text without leading and trailing blanks.

@@ -23,7 +23,7 @@ constexpr int columnOf(int cell) {
   return (cell - 1) % gridSide + 1;
 }
 
-/// Role of a cell, with its character in `roleMap`.
+/// Role of a cell. Its value is its character in `roleMap`.
 enum class CellRole : char {
   number = 'n',
   operatorSign = '+',
@@ -63,12 +63,12 @@ constexpr int cornerOf(int cell) {
   }
   return 0;
 }
-/// Cells beside the corners that show their targets.
+/// Cells that show the targets, each beside its corner.
 constexpr std::array<int, 5> OuterCornerCells{0, 50, 51, 52, 53};
-/// Elements of `SolNumbers` that hold the corners' numbers.
+/// Elements of `SolNumbers` for the corners.
 constexpr std::array<int, 5> cornerNumbers{0, 1, 4, 13, 16};
 
-/// Cells of `SolNumbers` and `SolOperators`, element by element; element 0 is unused.
+/// Cell of each element of `SolNumbers` and `SolOperators`; element 0 is unused.
 constexpr std::array<int, 17> numberCells{0,  1,  3,  5,  7,  15, 17, 19, 21,
                                           29, 31, 33, 35, 43, 45, 47, 49};
 constexpr std::array<int, 17> operatorCells{0, 2,  4,  16, 18, 30, 32, 44, 46,

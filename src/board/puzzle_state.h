@@ -13,10 +13,10 @@ constexpr platform::Colour ColRed = platform::palette[4];
 constexpr platform::Colour ColGreen = platform::palette[2];
 constexpr platform::Colour ColWhite = platform::palette[15];
 
-/// State of the puzzle, apart from the player's position, which the board's captions hold.
+/// State of the puzzle. The player's position is in the board's captions instead.
 struct PuzzleState {
-  /// Numbers of the solution, four to a matrix row, each a digit 1..9 with a leading blank (" 7"),
-  /// and its operators "+", "-" or "*": 1..8 of the rows, 9..16 of the columns. Their cells are
+  /// Solution: its numbers, four a matrix row, each a digit 1..9 after a blank (" 7"), and its
+  /// operators "+", "-" or "*", 1..8 those of the rows, 9..16 those of the columns. Their cells are
   /// `numberCells` and `operatorCells`; element 0 is unused.
   std::array<std::string, 17> SolNumbers;
   std::array<std::string, 17> SolOperators;
@@ -31,7 +31,7 @@ struct PuzzleState {
   std::int16_t PuzzleNo = 0;
   /// Whether the user is setting a puzzle for the computer.
   bool SolveMode = false;
-  /// Whether the current puzzle is over, so that presses on the board do nothing in play.
+  /// Whether the current puzzle is over. In play, presses on the board then do nothing.
   bool BoardLocked = false;
 };
 

@@ -13,7 +13,7 @@ namespace platform {
 struct Accessible {
   enum class Role { none, label, button, image };
 
-  /// Named action on an enabled control. It presses the mouse button on the control.
+  /// Named action of an enabled control, which presses a mouse button on it.
   struct Action {
     std::string_view name;
     MouseButton button = MouseButton::left;
@@ -22,7 +22,7 @@ struct Accessible {
   Role role = Role::none;             ///< `none` hides the control
   std::function<std::string()> name;  ///< returns the current description
   std::vector<Action> actions;
-  /// Whether the control belongs to a grid: arrow keys move within it, and it is one Tab stop.
+  /// Whether the control belongs to a grid. Arrow keys move within the grid, which is one Tab stop.
   bool inGrid = false;
 };
 

@@ -9,11 +9,11 @@
 
 namespace platform {
 
-/// Display cell: a short text with its own colours and border that reports mouse and key input.
+/// Display cell: a short text with its own colours and border. It reports mouse and key input.
 ///
-/// The window passes on every mouse press and release. The cell decides which of them become
-/// events, so that a disabled or hidden cell never raises one, whatever window shows it. A cell
-/// with a `click` handler is a button, whose caption is greyed while it is disabled.
+/// The window passes on every mouse press and release, and the cell decides which become events:
+/// none while it is disabled or hidden. A cell with a `click` handler is a button, whose caption is
+/// greyed while it is disabled.
 class CellPane final : public Control {
  public:
   Property<std::string> caption{*this, ""};
@@ -40,7 +40,7 @@ class CellPane final : public Control {
   std::function<void(const MousePress&)> mouseDown;
   /// Called when a press is ignored because the cell is disabled.
   std::function<void()> refused;
-  /// Called when the left button goes down and up inside the cell, without another press between.
+  /// Called when the left button goes down and up inside the cell, with no other press in between.
   std::function<void()> click;
   /// Called when a character, in lower case, is typed while the cell has the focus, even if it is
   /// disabled. Returns whether the character has a meaning there.
@@ -53,7 +53,7 @@ class CellPane final : public Control {
 
   /// Handles a mouse button going down on the cell.
   void press(const MousePress& press);
-  /// Handles the release of a button that went down on the cell; `inside` is where it comes up.
+  /// Handles the release, inside or outside the cell, of a button that went down on it.
   void release(MouseButton button, bool inside);
 
  private:

@@ -8,7 +8,7 @@
 
 namespace platform {
 
-/// Services of the desktop that the program uses, besides showing its controls.
+/// Services that the desktop offers the program, apart from showing its controls.
 class Desktop {
  public:
   /// `yesNo` has Yes as its default, the button that Return presses.
@@ -20,7 +20,7 @@ class Desktop {
   /// Shows a modal message box without an icon, titled with the application's title, and returns
   /// when the user has answered it. Closing the box answers `ok` or `no`.
   virtual Answer messageBox(std::string_view text, Buttons buttons) = 0;
-  /// Makes a screen reader, if one is running, speak the sentence.
+  /// Speaks the sentence with a screen reader, if one is running.
   virtual void announce(std::string_view sentence) = 0;
 
   /// Processes the windows' pending events; their handlers run inside the call.

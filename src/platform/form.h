@@ -41,7 +41,7 @@ class Form : public Observable {
   std::function<void()> unload;
   /// Called when the user presses the help key.
   std::function<void()> help;
-  /// Called when a key that moves the focus has nowhere to go, such as at the grid's edge.
+  /// Called when a key cannot move the focus further, as at the grid's edge.
   std::function<void()> edgeReached;
 
  protected:

@@ -9,7 +9,7 @@
 
 namespace tessoro {
 
-/// Comparison of the board's corners with the puzzle's, which detects the solved puzzle.
+/// Check of the board's corners against their targets, which detects the solved puzzle.
 class CornerCheck {
  public:
   CornerCheck(PuzzleState& state, Board& board, platform::Label& RightMess,

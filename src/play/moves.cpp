@@ -9,8 +9,7 @@
 namespace tessoro {
 namespace {
 
-/// Returns the digit one up or down, wrapping between 9 and 1. A caption without a digit counts as
-/// 0.
+/// Returns the next digit up or down, wrapping between 9 and 1. Without a digit, starts from 0.
 std::string nextDigit(std::string_view caption, platform::MouseButton button) {
   const bool down = button == platform::MouseButton::right;
   const int digit = readNumber(caption) + (down ? -1 : 1);
@@ -71,15 +70,14 @@ void Moves::play(int index, const std::string& caption) {
   cell.caption = caption;
   const std::string_view tag = cell.Tag();
   results_.UpdateLines(isOperator(index) ? tag.substr(1) : tag);
-  // After a move on one of the two lines that end in cell 49, the cell shows that line's value.
+  // Cell 49 ends two lines. After an operator of either has changed, it shows that line's value.
   const bool ownLine =
       isOperator(index) && (rowOf(index) == gridSide || columnOf(index) == gridSide);
   if (!ownLine) results_.UpdateCornerResult();
   cornerCheck_.CheckCorners();
 }
 
-/// Runs before every move while the top left corner is right, since a right corner hides its outer
-/// corner cell.
+/// Runs before nearly every move, because the right corner at the top left hides its target again.
 void Moves::beginMove() {
   board_.setOuterCornersVisible(true);
   results_.updateAll();

@@ -25,11 +25,11 @@ class Moves {
         Solveit_(Solveit) {}
 
   /// Handles a mouse button pressed on cell `Index`, 0..53; above 49 it does nothing. The right
-  /// button counts a digit down, any other up; every button shows the next operator.
+  /// button counts a digit down, any other button up. Every button shows the next operator.
   void GridDisp_MouseDown(int Index, const platform::MousePress& press);
 
-  /// Returns whether cell 0..53 can be set now: in play a number or an operator, until the puzzle
-  /// is over, and while the user sets a puzzle a corner.
+  /// Returns whether cell 0..53 can be set now: in play, a number or an operator until the puzzle
+  /// is over; while the user sets a puzzle, a corner.
   bool canSet(int index) const;
   /// Returns whether the character fits into a cell that can be set: an operator into an operator
   /// cell, a digit 1..9 into any other.

@@ -28,8 +28,7 @@ class NewGame {
 
   /// Leaves set-a-puzzle mode if it is on, clears the board and makes a new puzzle.
   void NewPuz_Click();
-  /// Fills the board with random numbers and "+" as a start, except the given number at the top
-  /// left.
+  /// Fills the board with random numbers and "+". The given number at the top left stays.
   void StartSolx_Click();
 
  private:

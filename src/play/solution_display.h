@@ -12,10 +12,10 @@ class SolutionDisplay {
   SolutionDisplay(PuzzleState& state, Board& board, platform::Label& RightMess)
       : state_(state), board_(board), RightMess_(RightMess) {}
 
-  /// Gives the puzzle up: shows its solution and ends play on it.
+  /// Gives up: shows the solution and ends the puzzle.
   void ShowSolx_Click();
-  /// Writes the stored solution onto the board, with green corners. After a search that gave up the
-  /// stored solution is incomplete.
+  /// Writes the stored solution onto the board, with green corners. It is incomplete after a search
+  /// that gave up.
   void ShowSolution();
 
  private:

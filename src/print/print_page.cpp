@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::size_t lineWidth = 70;
 
-// First columns, counted from 1, of the two grids of a slot.
+// First column of each grid of a slot, counted from 1.
 constexpr int puzzleGrid = 1;
 constexpr int solutionGrid = 40;
 
@@ -18,12 +18,12 @@ constexpr std::string_view cellLine = "|   |   |   |   |   |   |   |";
 constexpr std::string_view separatorLine = "|---|---|---|---|---|---|---|";
 constexpr std::string_view holeMark = "///";
 
-/// Returns the index in the line of the first of a cell's three inner characters.
+/// Returns the index, in a line of the page, of the first of a cell's three characters.
 constexpr std::size_t innerStart(int grid, int cell) {
   return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
 }
 
-/// Returns the line of the page on which a cell of the slot under `heading` stands.
+/// Returns the line of the page that shows a cell of the slot under `heading`.
 constexpr int pageLine(int heading, int cell) {
   return heading + 2 * rowOf(cell);
 }

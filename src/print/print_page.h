@@ -15,7 +15,7 @@ class PrintPage {
  public:
   /// Number of printed lines: elements 1..55 of `PrintLines`.
   static constexpr int lineCount = 55;
-  /// Heading lines of the three slots; the 15 lines below each hold its grids.
+  /// Heading lines of the three slots; the 15 lines below each are its grids.
   static constexpr std::array<int, 3> headings{1, 20, 39};
   static constexpr std::string_view headingText = "Puzzle No";
 
@@ -27,7 +27,7 @@ class PrintPage {
 
   /// Draws the empty grids of all three slots.
   void InitPrintPage();
-  /// Writes the board's corner captions and the solution into the slot of the puzzle's number.
+  /// Writes the corners and the solution into the slot for the puzzle's number.
   void RecordPuzzleForPrint();
 
  private:

@@ -115,7 +115,7 @@ void setTitle(QWidget& window, const QString& title) {
 }
 
 void notifyNewName(QWidget& widget) {
-  // A focus event also makes clients drop the old name, but they read out nothing.
+  // A focus event also makes clients discard the old name, and they read out nothing.
   const bool readOut = hasAnnouncements && widget.hasFocus();
   QAccessibleEvent event(&widget, readOut ? QAccessible::Focus : QAccessible::NameChanged);
   QAccessible::updateAccessibility(&event);

@@ -7,30 +7,29 @@
 
 namespace qt {
 
-/// Whether Qt can send announcements to screen readers. The versions that can, 6.8 and later, also
-/// send the new name with a name change event, so that screen readers read it out if it is that of
-/// the focus or the window.
+/// Whether Qt can send announcements to screen readers, as 6.8 and later can. These versions also
+/// send the new name with a name change event. Screen readers then read out the new name of the
+/// focused widget or of the window.
 constexpr bool hasAnnouncements = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
 
-/// Makes a screen reader speak sentences, whatever has the focus.
+/// Speaker of sentences through a screen reader, for one window.
 class Announcer final : public QObject, private QAccessible::ActivationObserver {
  public:
   explicit Announcer(QWidget& window);
   ~Announcer() override;
 
   /// Speaks the sentence after the pending events, so that it follows what the screen reader says
-  /// about them by itself. The last sentence waits until the window is shown and a screen reader
-  /// is running.
+  /// about these. The last sentence waits until the window is shown and a screen reader runs.
   void announce(const QString& sentence);
-  /// Has the text spoken when the window is shown: as an announcement where Qt has them, because
-  /// screen readers would speak a description twice, otherwise as the window's description, because
-  /// a sentence would make them name the dialog twice.
+  /// Speaks the text when the window is shown. Where Qt has announcements it is one, because screen
+  /// readers would speak a description twice. Elsewhere it is the window's description, because a
+  /// sentence would make screen readers name the dialog twice.
   void introduce(const QString& text);
   /// Call when a command has been chosen from the window's menu. Qt sends no focus event when a
   /// menu closes, so the announcer sends one before the next sentence, unless the focus has moved.
   void menuClosed() { focusInMenu_ = window_.focusWidget(); }
-  /// Returns and clears the sentence that waits to be spoken, so that the caller can have it
-  /// spoken. Empty if there is none or no screen reader is running.
+  /// Returns and clears the sentence that waits, for a caller that speaks it in another way. Empty
+  /// if no sentence waits or no screen reader is running.
   QString takeSentence();
 
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,11 +44,11 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   const QWidget* focusInMenu_ = nullptr;  ///< what had the focus when the menu closed
 };
 
-/// Sets the title of a window without notifying screen readers that would read it out: a sentence
-/// already says what has changed.
+/// Sets the title of a window without making a screen reader read it out: a sentence already says
+/// what has changed.
 void setTitle(QWidget& window, const QString& title);
-/// Notifies accessibility clients of the widget's new name, in a way that no screen reader reads
-/// out in addition to the sentence.
+/// Notifies accessibility clients of the widget's new name without making a screen reader read it
+/// out, for the same reason.
 void notifyNewName(QWidget& widget);
 
 }  // namespace qt

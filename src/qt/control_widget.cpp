@@ -141,7 +141,7 @@ void ControlWidget::pressLater(MouseButton button) {
 
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
   view_.setKeysUsed(false);
-  // While one button is held down, presses of the others arrive here from anywhere.
+  // While one button is down, presses of the others arrive here wherever the mouse is.
   if (cell_ == nullptr || !rect().contains(event->position().toPoint())) return;
   cell_->press({toMouseButton(event->button()), shiftState(event->modifiers()),
                 event->position().x() * view_.twipsPerPixel(),

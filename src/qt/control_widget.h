@@ -20,17 +20,16 @@ class ControlWidget final : public QWidget {
 
   /// Returns the place in the form's client area, in twips.
   const platform::Place& place() const { return place_; }
-  /// Returns what the control presents to accessibility clients.
   const platform::Accessible& accessible() const { return base(control_).accessible; }
   /// Returns whether the control is a disabled cell. The widget itself stays enabled, so that the
   /// cell can still be read and can explain why it does nothing.
   bool isDisabled() const;
 
-  /// Notifies accessibility clients of a changed name or state. Qt reports by itself what is shown
-  /// or hidden and what has the focus.
+  /// Notifies accessibility clients of a changed name or state. Qt itself reports what is shown or
+  /// hidden and what has the focus.
   void notifyClients();
   /// Presses and releases a mouse button on the control after the caller has returned. An
-  /// accessibility client that waited for the press could not answer a message box opened by it.
+  /// accessibility client that had to wait for the press could not answer a box that it opens.
   void pressLater(platform::MouseButton button);
 
  protected:

@@ -34,11 +34,10 @@ double contrast(const QColor& one, const QColor& other) {
   return more / less;
 }
 
-/// Returns the theme's own colour if its contrast to the face is at least `least`, otherwise the
-/// nearest shade with that contrast between the face and the first of `ends`, or the second if the
-/// first is too close.
-QColor standingOut(const QColor& own, const QColor& face, double least,
-                   std::initializer_list<QColor> ends) {
+/// Returns the theme's `own` colour if its contrast to the face is at least `least`. Otherwise goes
+/// from the face to each of `ends` in turn and returns the first shade with that contrast.
+QColor contrastingShade(const QColor& own, const QColor& face, double least,
+                        std::initializer_list<QColor> ends) {
   if (contrast(own, face) >= least) return own;
   for (const QColor& end : ends) {
     for (int step = 1; step <= 64; ++step) {
@@ -61,13 +60,13 @@ QPalette boardPalette(QPalette palette) {
   palette.setCurrentColorGroup(QPalette::Active);
   const QColor face = palette.color(QPalette::Button);
   const QColor shadow =
-      standingOut(palette.color(QPalette::Dark), face, leastShadow, {Qt::black, Qt::white});
-  // Nothing is much darker than a dark face. There the shadow is lighter than the face and the
-  // highlight lighter still, so that light seems to come from the top left.
+      contrastingShade(palette.color(QPalette::Dark), face, leastShadow, {Qt::black, Qt::white});
+  // Nothing is much darker than a dark face. So its shadow is lighter than the face, and its
+  // highlight lighter still: the light seems to come from the top left, as in light themes.
   const bool isLighter = brightness(shadow) > brightness(face);
   const QColor highlight =
-      standingOut(palette.color(QPalette::Light), face,
-                  leastHighlight * (isLighter ? leastShadow : 1), {Qt::white, Qt::black});
+      contrastingShade(palette.color(QPalette::Light), face,
+                       leastHighlight * (isLighter ? leastShadow : 1), {Qt::white, Qt::black});
   palette.setColor(QPalette::Light, highlight);
   palette.setColor(QPalette::Dark, shadow);
   return palette;

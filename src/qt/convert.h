@@ -24,9 +24,9 @@ inline QString toQString(std::string_view text) {
 /// Converts a colour. Colours of the theme come from the palette.
 QColor toQColor(platform::Colour colour, const QPalette& palette);
 
-/// Returns the palette for drawing the board: the active colours, even while a box is open over the
-/// window, with a highlight and a shadow that stand out from the button face. In themes that draw
-/// no such borders these two are often almost the colour of the face.
+/// Returns the palette for drawing the board. It has the active colours even while a box is open
+/// over the window. Its highlight and shadow stand out from the button face. In themes that draw no
+/// such borders, these two colours are often almost that of the face.
 QPalette boardPalette(QPalette palette);
 
 /// Converts a font, `scale` times as large. `logicalDpi` is the resolution that Qt uses for points;

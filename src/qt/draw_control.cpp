@@ -37,8 +37,8 @@ void drawText(const Canvas& canvas, const std::string& text, const platform::Fon
   canvas.painter.drawText(canvas.rect, Qt::AlignCenter, toQString(text));
 }
 
-/// Returns the text colour, faded two fifths towards the background, which keeps a contrast of 4.5
-/// to 1 for usual texts. Themes fade the text of disabled buttons until it is hard to read.
+/// Returns the text colour, faded two fifths towards the background: usual colours keep a contrast
+/// of 4.5 to 1. Themes fade the text of disabled buttons until it is hard to read.
 QColor greyed(const Look& look, const QPalette& palette) {
   const QColor text = toQColor(look.forecolor, palette);
   const QColor back = toQColor(look.backcolor, palette);

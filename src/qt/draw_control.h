@@ -13,12 +13,11 @@ namespace qt {
 using DrawnControl =
     std::variant<platform::CellPane*, platform::Label*, platform::PictureBox*, platform::Frame*>;
 
-/// Returns the control as its base class.
 inline platform::Control& base(const DrawnControl& control) {
   return std::visit([](auto* it) -> platform::Control& { return *it; }, control);
 }
 
-/// Properties that decide how a control is drawn, at some moment.
+/// Snapshot of the properties that decide how a control is drawn.
 struct Look {
   bool visible = true;
   bool greyed = false;
@@ -37,13 +36,11 @@ struct Canvas {
   double logicalDpi = 96;
 };
 
-/// Draws the control with the look.
 void drawControl(const DrawnControl& control, const Look& look, const Canvas& canvas);
 
 /// Draws the focus ring just inside the edges of a control.
 void drawRing(const Canvas& canvas);
 
-/// Returns what the control looks like now.
 Look lookOf(const DrawnControl& control);
 
 }  // namespace qt

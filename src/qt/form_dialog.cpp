@@ -9,7 +9,7 @@
 namespace qt {
 namespace {
 
-/// Returns all texts of a form. A screen reader by itself reads only the button with the focus.
+/// Returns all texts of a form. A screen reader alone would read only the button with the focus.
 QString textOf(const platform::Form& form) {
   QStringList lines;
   for (const platform::ControlRef& control : form.controls) {

@@ -17,7 +17,7 @@ class FormDialog final : public QDialog {
   /// Shows the form and returns after it has been closed.
   void run();
 
-  /// Passes on the user's close command or Escape key.
+  /// Passes the user's close command or Escape key on to the form.
   void reject() override;
 
  private:

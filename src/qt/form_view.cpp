@@ -33,7 +33,7 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
   return result;
 }
 
-/// How a key moves the focus in the grid: first across, then down, each by one step or to the edge.
+/// Focus move of a key in the grid: first across, then down, each by one step or to the edge.
 struct FocusMove {
   int key = 0;
   bool control = false;
@@ -71,7 +71,7 @@ FormView::~FormView() {
     base(item.control).changed = nullptr;
     base(item.control).focusWanted = nullptr;
   }
-  // Destroying the widgets moves the focus.
+  // Destroying the widgets moves the focus, which would call moveRing().
   disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -143,7 +143,7 @@ void FormView::refresh() {
     if (item.look != before) updatePlace(item.place);
     if (item.widget != nullptr && item.look.visible) item.widget->show();
   }
-  // Hidden last, so that the focus can move to the control shown instead.
+  // Hide controls last, so that the focus can move to the control shown instead.
   for (const Item& item : items_) {
     if (item.widget != nullptr && !item.look.visible) hideWidget(*item.widget);
   }
@@ -161,7 +161,7 @@ void FormView::hideWidget(ControlWidget& widget) {
       if (item.widget->geometry() == widget.geometry()) item.widget->setFocus();
     }
   }
-  // Qt moves the focus on as Tab would.
+  // Qt then moves the focus as Tab does, which shows the focus ring.
   const bool keysUsed = keysUsed_;
   widget.hide();
   setKeysUsed(keysUsed);

@@ -45,8 +45,8 @@ class FormView final : public QWidget {
   double twipsPerPixel() const { return qt::twipsPerPixel / zoom_; }
   /// Returns the rectangle of a place in the client area, in device-independent pixels.
   QRect rectOf(const platform::Place& place) const;
-  /// Moves the focus where an arrow key, Home or End leads; `control` says whether Ctrl is down.
-  /// Notifies the form if that is nowhere. Returns false for any other key.
+  /// Moves the focus by an arrow key, Home or End; `control` says whether Ctrl is down. Notifies
+  /// the form if there is nothing in that direction. Returns false for any other key.
   bool moveFocus(ControlWidget& from, int key, bool control);
   /// Records whether the player works with the keyboard, and shows or hides the focus ring.
   void setKeysUsed(bool used);
@@ -94,9 +94,9 @@ class FormView final : public QWidget {
 
   ControlWidget* tabStop_ = nullptr;       ///< the control of the grid that Tab reaches
   const ControlWidget* ringed_ = nullptr;  ///< the control with the focus ring, if any
-  /// Whether the player works with the keyboard: set by Tab, by the menu keys and by every key that
-  /// does something on the board, cleared by the mouse. Qt has such an attribute too, but 6.11
-  /// clears it whenever the focus moves by anything but Tab.
+  /// Whether the player works with the keyboard. Tab, the menu keys and every key with a meaning on
+  /// the board set it; the mouse clears it. Qt has such an attribute, too, but Qt 6.11 clears it
+  /// whenever the focus moves by anything but Tab.
   bool keysUsed_ = false;
 };
 

@@ -25,7 +25,7 @@ quint32 idOf(const QKeyEvent& event) {
   return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<quint32>(event.key());
 }
 
-/// Returns whether the key acts rather than moves: on a control, or as a shortcut with Ctrl.
+/// Returns whether the key presses a control, or a shortcut with Ctrl, and does not move the focus.
 bool pressesSomething(const QKeyEvent& event) {
   const QWidget* focused = QApplication::focusWidget();
   return (dynamic_cast<const ControlWidget*>(focused) != nullptr ||
@@ -46,7 +46,7 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   }
   auto* key = dynamic_cast<QKeyEvent*>(event);
   if (key == nullptr) return false;
-  // While a screen reader listens to the keyboard, Qt's accessibility filter may be ahead of this
+  // While a screen reader listens to the keyboard, Qt's accessibility filter may run before this
   // one and pass on only copies, which carry no time stamp.
   if (!key->spontaneous()) {
     const auto moveToFront = [this] { qApp->installEventFilter(this); };
@@ -61,15 +61,15 @@ bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
   }
   if (event->type() != QEvent::KeyPress) return false;
   if (tooEarly) {
-    if (keyKeptFromBox) keyKeptFromBox();
+    if (boxIgnoredKey) boxIgnoredKey();
     return true;
   }
   if (isBox && !repeat) boxWaits_ = false;
   return repeat && pressesSomething(*key);
 }
 
-/// Qt cannot mark an X server's repeat before the next press of the key has arrived, but the repeat
-/// has the same time stamp as the release sent with it.
+/// An X server repeats a key as a release and a press with the same time stamp. Qt does not mark
+/// them as a repeat if the press arrives after Qt has handled the release.
 bool KeyGuard::isRepeat(const QKeyEvent& event) const {
   return event.isAutoRepeat() || (event.type() == QEvent::KeyPress && idOf(event) == released_ &&
                                   event.timestamp() == releasedAt_);
@@ -85,8 +85,8 @@ bool KeyGuard::isTooEarly(const QKeyEvent& event) const {
           std::any_of(heldUntil_.constKeyValueBegin(), heldUntil_.constKeyValueEnd(), isOtherHeld));
 }
 
-/// A key may be released unnoticed, in another program or while the focus moves to another window.
-/// As a held key repeats, one that sends nothing for a second counts as released.
+/// The release of a key may go to another program, or get lost while the focus changes windows.
+/// Since a held key repeats, a key that sends nothing for a second counts as released.
 void KeyGuard::record(const QKeyEvent& event) {
   if (event.type() == QEvent::KeyPress) {
     heldUntil_[idOf(event)] = clock() + longestRepeatDelay;

@@ -11,20 +11,19 @@ namespace qt {
 /// Application-wide event filter that drops key events the player did not intend:
 ///
 /// - A held key presses what has the focus once; its repeats do nothing.
-/// - A box that has just opened ignores keys for half a second, and until every key held since
-///   before is released: the player meant them for what was there before and may not know of the
-///   box yet.
+/// - A box that has just opened ignores keys for half a second, and until every key that was
+///   already down is released. The player meant these keys for what was there before.
 class KeyGuard final : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override;
 
-  /// Called when a key has been kept from a box.
-  std::function<void()> keyKeptFromBox;
+  /// Called when a box has ignored a key.
+  std::function<void()> boxIgnoredKey;
   /// Returns the time in milliseconds since any fixed moment. Tests set a clock of their own.
   std::function<qint64()> clock = [] { return QDeadlineTimer::current().deadline(); };
 
  private:
-  /// Returns whether the key press is a repeat that the keyboard sends while the key is held.
+  /// Returns whether the key press is a repeat of a held key.
   bool isRepeat(const QKeyEvent& event) const;
   /// Returns whether the player may have meant the key for what was there before the box.
   bool isTooEarly(const QKeyEvent& event) const;

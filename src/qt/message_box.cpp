@@ -11,9 +11,9 @@
 namespace qt {
 namespace {
 
-/// Device-independent pixels. Qt's own title bars centre the title and keep room for three buttons
-/// on the right, which makes the title wider than the shortest texts.
-constexpr int roomForTitle = 206;
+/// Width of a box's title, in device-independent pixels. Qt's own title bars also reserve room for
+/// three buttons, so the title is wider than the shortest texts.
+constexpr int titleWidth = 206;
 
 constexpr int pauseBeforeRepeat = 500;  // milliseconds
 
@@ -29,10 +29,10 @@ platform::Desktop::Answer showMessageBox(const QString& title, const QString& te
   box.setTextFormat(Qt::PlainText);
   box.setText(text);
   if (auto* grid = dynamic_cast<QGridLayout*>(box.layout())) {
-    grid->addItem(new QSpacerItem(roomForTitle, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    grid->addItem(new QSpacerItem(titleWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
   }
   box.setWindowModality(Qt::WindowModal);
-  // A window-modal box would be a sheet, without a title bar where the program draws its own.
+  // Qt makes window-modal boxes sheets, which have no title bar on desktops where Qt draws it.
   box.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                      Qt::WindowCloseButtonHint);
   const bool isQuestion = buttons != Desktop::Buttons::ok;
@@ -46,17 +46,17 @@ platform::Desktop::Answer showMessageBox(const QString& title, const QString& te
   for (QLabel* label : box.findChildren<QLabel*>()) {
     if (label->text() == text) label->setAccessibleName(spoken);
   }
-  // With announcements, a key kept from the box cuts the reading short, so the text is read again.
-  // Without, it would be read twice.
+  // With announcements, a key that the box ignores still interrupts the reading, so the text is
+  // read again. Without them, it would be read twice.
   Announcer announcer(box);
   QTimer repeat;
   repeat.setSingleShot(true);
   QObject::connect(&repeat, &QTimer::timeout, [&] { announcer.announce(spoken); });
-  if (hasAnnouncements) keyGuard.keyKeptFromBox = [&] { repeat.start(pauseBeforeRepeat); };
+  if (hasAnnouncements) keyGuard.boxIgnoredKey = [&] { repeat.start(pauseBeforeRepeat); };
 
   waitForScreenReader();
   const int answer = runModal(box);
-  keyGuard.keyKeptFromBox = nullptr;
+  keyGuard.boxIgnoredKey = nullptr;
   if (!isQuestion) return Desktop::Answer::ok;
   return answer == QMessageBox::Yes ? Desktop::Answer::yes : Desktop::Answer::no;
 }

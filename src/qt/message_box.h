@@ -11,8 +11,8 @@ namespace qt {
 /// Shows a message box without an icon, modal to its parent alone, so that help stays readable
 /// beside it. Returns the player's answer; closing the box answers `ok` or `no`.
 ///
-/// A screen reader reads `pendingSentence`, which may be empty, together with the box's text: by
-/// itself it would come after the box and cut the text short.
+/// A screen reader reads `pendingSentence`, which may be empty, together with the box's text. On
+/// its own, the sentence would come after the box and interrupt its text.
 platform::Desktop::Answer showMessageBox(const QString& title, const QString& text,
                                          platform::Desktop::Buttons buttons,
                                          const QString& pendingSentence, KeyGuard& keyGuard,

@@ -32,13 +32,13 @@ void waitForScreenReader() {
 }
 
 int runModal(QDialog& dialog) {
-  // A dialog has a window of its own only once it is shown.
+  // A dialog has no QWindow until it is shown.
   const auto watchState = [&dialog] {
     if (dialog.windowHandle() == nullptr) return;
     QObject::connect(
         dialog.windowHandle(), &QWindow::windowStateChanged, &dialog,
         [&dialog](Qt::WindowState state) {
-          // With the window below it, it comes back.
+          // A box that was minimised with its window comes back with it.
           const bool isAlone =
               dialog.parentWidget() == nullptr || !dialog.parentWidget()->isMinimized();
           if (state == Qt::WindowMinimized && isAlone) dialog.reject();

@@ -10,8 +10,8 @@ namespace qt {
 bool isBlocked(const QWidget& widget);
 
 /// Gives a screen reader, if one is running, 100 ms to notice the key that the player has just
-/// pressed. Call before a window opens or closes: a screen reader that notices the key only
-/// afterwards cuts short what it says about the window. The player's input waits meanwhile.
+/// pressed; input waits. Call before a window opens or closes: a screen reader that notices the key
+/// later interrupts what it says about the window.
 void waitForScreenReader();
 
 /// Shows the dialog modally and returns as `QDialog::exec` does. Minimising the dialog alone counts

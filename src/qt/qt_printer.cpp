@@ -27,51 +27,51 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 constexpr double linePitch = pointsPerInch / 6;
-/// The part of the paper's edges that a printer may not reach, in points.
-constexpr double smallestMargin = pointsPerInch / 4;
+/// Width of the edge of the paper that a printer may be unable to print on, in points.
+constexpr double minimumMargin = pointsPerInch / 4;
 
-/// The width of a character in ems, for fixed-pitch typefaces: 12 points make 10 characters to the
-/// inch.
+/// Width of a fixed-pitch character in ems: at 12 points, an inch has 10 characters.
 constexpr double characterWidth = 0.6;
 
-/// The pixel size at which lines are drawn before they are scaled to the size of the font, since
-/// pixel sizes are whole numbers.
+/// Pixel size at which lines are drawn. They are then scaled to the font's size, which need not be
+/// a whole number of pixels.
 constexpr int drawnSize = 100;
 
 // Milliseconds.
-constexpr int timeToAnswer = 10000;  ///< for the print system
-constexpr int timeUntilBox = 200;    ///< a wait too short to need a box
+constexpr int answerTimeout = 10000;  ///< of the print system
+constexpr int delayBeforeBox = 200;   ///< shorter waits show no box
 
 constexpr std::string_view notSent =
     "The page could not be sent to the printer. You can print it again.";
 
-QPageSize usualPaper() {
+QPageSize defaultPaper() {
   const bool metric = QLocale::system().measurementSystem() == QLocale::MetricSystem;
   return {metric ? QPageSize::A4 : QPageSize::Letter};
 }
 
-QPrinterInfo printerToUse() {
+QPrinterInfo choosePrinter() {
   const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
   if (!usual.isNull()) return usual;
   const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
   return all.isEmpty() ? usual : all.first();
 }
 
-/// Runs a command of the print system, in English, and returns its standard output. This is empty
-/// if the command fails, and missing if the user cancels it or the time is up. A modal box over the
-/// window keeps another page from being printed meanwhile; the window is still repainted.
-std::optional<QString> ask(const QString& command, const QStringList& arguments, QWidget* window) {
+/// Runs a command of the print system, in English, and returns its standard output. Returns an
+/// empty text if the command fails, and `nullopt` if the user cancels it or it needs too long. A
+/// modal box over the window keeps the user from printing again; the window is still repainted.
+std::optional<QString> runCommand(const QString& command, const QStringList& arguments,
+                                  QWidget* window) {
   QProcess process;
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
   environment.insert("LC_ALL", "C");
   process.setProcessEnvironment(environment);
   process.start(command, arguments);
-  if (!process.waitForFinished(timeUntilBox) && process.state() != QProcess::NotRunning) {
+  if (!process.waitForFinished(delayBeforeBox) && process.state() != QProcess::NotRunning) {
     QProgressDialog box("Sending the page to the printer ...", "Cancel", 0, 0, window);
     box.setWindowTitle(QCoreApplication::applicationName());
     box.setWindowModality(Qt::WindowModal);
     QObject::connect(&process, &QProcess::finished, &box, &QDialog::accept);
-    QTimer::singleShot(timeToAnswer - timeUntilBox, &box, &QDialog::reject);
+    QTimer::singleShot(answerTimeout - delayBeforeBox, &box, &QDialog::reject);
     runModal(box);
   }
   if (process.state() == QProcess::NotRunning) return process.readAllStandardOutput();
@@ -101,8 +101,8 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   const double width = static_cast<double>(columns) * font_.points * characterWidth;
   const double height = static_cast<double>(lines_.size()) * linePitch;
   const QSizeF page = paper.size(QPageSize::Point);
-  const double scale = std::min({1.0, (page.width() - 2 * smallestMargin) / width,
-                                 (page.height() - 2 * smallestMargin) / height});
+  const double scale = std::min({1.0, (page.width() - 2 * minimumMargin) / width,
+                                 (page.height() - 2 * minimumMargin) / height});
   painter.translate((page.width() - width * scale) / 2, (page.height() - height * scale) / 2);
   painter.scale(scale, scale);
 
@@ -110,7 +110,7 @@ QByteArray QtPrinter::sheet(const QPageSize& paper) const {
   font.setStyleHint(QFont::TypeWriter);
   font.setPixelSize(drawnSize);
   painter.setFont(font);
-  // A substitute of another width is stretched, so that the columns keep their places.
+  // Stretch a substitute of another width, so that the columns keep their places.
   const QFontMetricsF metrics(font, &writer);
   const double lineScale = font_.points / drawnSize;
   const double columnScale = width / metrics.horizontalAdvance(QString(columns, 'M'));
@@ -131,13 +131,13 @@ void QtPrinter::endDocument() {
 }
 
 std::string_view QtPrinter::printOrSave() const {
-  // Qt's look-up blocks the window until the print system answers, if ever. A command that asks it
-  // first can be waited for and cancelled.
-  const std::optional<QString> printers = ask("lpstat", {"-d", "-p"}, window_);
+  // Qt's look-up blocks the window until the print system answers, which it may never do. So a
+  // command asks first, because the user can cancel it.
+  const std::optional<QString> printers = runCommand("lpstat", {"-d", "-p"}, window_);
   if (!printers) return notSent;
-  const QPrinterInfo printer = printerToUse();
+  const QPrinterInfo printer = choosePrinter();
   const QPageSize paper = printer.defaultPageSize();
-  const QByteArray pdf = sheet(paper.isValid() ? paper : usualPaper());
+  const QByteArray pdf = sheet(paper.isValid() ? paper : defaultPaper());
   if (printer.isNull()) return saveAsPdf(pdf);
   const std::string_view failure = sendToPrinter(printer.printerName(), pdf);
   const bool isStopped =
@@ -148,10 +148,10 @@ std::string_view QtPrinter::printOrSave() const {
 std::string_view QtPrinter::sendToPrinter(const QString& printer, const QByteArray& pdf) const {
   QTemporaryFile file(QDir::tempPath() + "/XXXXXX.pdf");
   if (!file.open() || file.write(pdf) != pdf.size() || !file.flush()) return notSent;
-  // Qt's printing does not report whether the job has been accepted. The print system's own command
-  // then names the job.
+  // Qt does not report whether the print system has accepted a job. Its own command prints the name
+  // of an accepted job.
   const std::optional<QString> job =
-      ask("lp", {"-d", printer, "-t", documentName_, file.fileName()}, window_);
+      runCommand("lp", {"-d", printer, "-t", documentName_, file.fileName()}, window_);
   if (!job) {
     return "The printer may already have the page. Look there before you print it again.";
   }
@@ -164,7 +164,7 @@ std::string_view QtPrinter::saveAsPdf(const QByteArray& pdf) const {
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
   dialog.setWindowModality(Qt::WindowModal);
-  // The program asks instead, because some desktops' own dialogs ask before they append the suffix.
+  // The program asks itself, because some dialogs of desktops ask before they append the suffix.
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   // If the home folder is unknown, Qt returns the root folder.
   QFileInfo target(QDir::home().isRoot() ? QDir::temp() : QDir::home(), documentName_ + ".pdf");

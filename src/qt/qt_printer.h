@@ -15,22 +15,20 @@
 
 namespace qt {
 
-/// Printer that prints on the desktop's default printer, or, if there is none, into a PDF file that
-/// the user names. The page is first made as a PDF in memory, so that it is sent whole or not at
-/// all.
+/// Printer that prints on the desktop's default printer or, if there is none, into a PDF file that
+/// the user names. It makes the page in memory first, so that the page is sent whole or not at all.
 class QtPrinter final : public platform::Printer {
  public:
   using Buttons = platform::Desktop::Buttons;
   using Answer = platform::Desktop::Answer;
   using MessageBox = std::function<Answer(std::string_view, Buttons)>;
 
-  /// `documentName` is shown in the printer's queue and proposed as the name of a file.
+  /// `documentName` is the name of the print job, and the suggested name of the PDF file.
   /// `messageBox` shows the user a message or a question.
   QtPrinter(QString documentName, MessageBox messageBox)
       : documentName_(std::move(documentName)), messageBox_(std::move(messageBox)) {}
 
-  /// Sets the parent of the file dialog, which accepts no input while a page is on its way to the
-  /// printer.
+  /// Sets the parent of all dialogs, which accepts no input while a page is being sent.
   void setParentWindow(QWidget* window) { window_ = window; }
 
   void setFontName(std::string_view name) override { font_.name = name; }
@@ -38,8 +36,8 @@ class QtPrinter final : public platform::Printer {
   void printLine(std::string_view text) override;
   void endDocument() override;
 
-  /// Returns the lines printed so far as a PDF of one upright sheet of the paper, centred, and
-  /// scaled down only if the paper is too small.
+  /// Returns the lines printed so far as a PDF of one portrait sheet, centred, and scaled down
+  /// only if the paper is too small.
   QByteArray sheet(const QPageSize& paper) const;
 
  private:

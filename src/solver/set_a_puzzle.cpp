@@ -50,7 +50,7 @@ void SetAPuzzle::leave() {
   controls_.NewPuz.Visible = true;
   for (int k = 1; k <= 4; ++k) {
     state_.*cornerTargets[k] = -1;
-    // In play the corners hold the given number and results, which the player cannot set.
+    // In play, the corners are the given number and three results. The player cannot set these.
     board_.GridDisp[CornerCells[k]].enabled = false;
   }
   board_.colourCorners(ColGreen);

@@ -15,7 +15,7 @@ namespace tessoro {
 /// One attempt at a random solution: random numbers, and for every line the first operator pair
 /// whose value is a digit 1..9.
 ///
-/// The solution is a 4 by 4 matrix. Rows and columns 1 to 3 hold the numbers, column 4 the results
+/// The solution is a 4 by 4 matrix. Rows and columns 1 to 3 are the numbers, column 4 the results
 /// of the rows and row 4 those of the columns. Element (r - 1) * 4 + c of `SolNumbers` is the
 /// number at (r, c). Row r has the operators 2r - 1 and 2r, column c has 7 + 2c and 8 + 2c. Targets
 /// fix the corners (1, 1), (1, 4), (4, 1) and (4, 4).

@@ -10,7 +10,7 @@
 
 namespace tessoro {
 
-/// Search for a solution by random attempts, which makes new puzzles and solves the user's.
+/// Search for a solution by random attempts. It makes new puzzles and solves the user's.
 class SolutionSearch {
  public:
   SolutionSearch(PuzzleState& state, Board& board, Digits& digits, PrintPage& page,
@@ -26,13 +26,13 @@ class SolutionSearch {
   /// Searches for a solution with the corners that the targets fix, processing pending events
   /// before each attempt. On success stores it as the current puzzle, updates title, corners and
   /// print page, hides the outer corner cells and disables `Solveit`. After 500 attempts shows a
-  /// message, clears the board between the corners and restores the puzzle number. After a success
-  /// the board between the corners is the caller's to clear or fill.
+  /// message, clears the board between the corners and restores the puzzle number. After a success,
+  /// the caller clears or fills the board between the corners.
   void FindSolution();
 
   /// Returns whether the last search found a solution; true while one is running.
   bool SolveFound() const { return SolveFound_; }
-  /// Returns whether a search is running, that is, whether it yielded to the calling handler.
+  /// Returns whether a search is running, which has then yielded to the calling handler.
   bool underWay() const { return underWay_; }
 
  private:
