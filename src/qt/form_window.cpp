@@ -31,11 +31,10 @@ FormWindow::FormWindow(platform::Form& form, const Zoom& zoom)
   }
   setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  // Otherwise the cursor of a box that closes under the mouse would stay.
+  // Without this, the window would keep the cursor of a box that closes under the mouse.
   setCursor(Qt::ArrowCursor);
-  // Qt's own title bars can maximise a window of fixed size, whatever its flags. The size is
-  // released as soon as that begins, because some desktops terminate a program that does not accept
-  // the size they set.
+  // Qt's own title bars can maximise even a window of fixed size. Release the size when that
+  // happens, because some desktops terminate a program that does not accept the size they set.
   create();
   connect(windowHandle(), &QWindow::windowStateChanged, this, [this](Qt::WindowState state) {
     if (state != Qt::WindowMaximized) return;
@@ -51,8 +50,8 @@ FormWindow::~FormWindow() {
   }
 }
 
-void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
-  // A closed menu returns the focus to the form, not to the menu bar.
+void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& submenu) {
+  // Return the focus to the form when a menu closes; Qt returns it to the menu bar.
   connect(
       &menu, &QMenu::aboutToHide, this,
       [this] {
@@ -61,26 +60,26 @@ void FormWindow::addMenu(QMenu& menu, const platform::MenuItem& item) {
         QApplication::sendEvent(menuBar(), &escape);
       },
       Qt::QueuedConnection);
-  for (platform::MenuItem* entry : item.items) {
-    if (entry->caption() == "-") {
+  for (platform::MenuItem* item : submenu.items) {
+    if (item->caption() == "-") {
       menu.addSeparator();
       continue;
     }
     QAction* action = menu.addAction(QString());
-    const auto show = [action, entry] {
-      action->setText(toQString(entry->caption()));
-      action->setEnabled(entry->enabled());
+    const auto updateAction = [action, item] {
+      action->setText(toQString(item->caption()));
+      action->setEnabled(item->enabled());
     };
-    show();
-    entry->changed = show;
+    updateAction();
+    item->changed = updateAction;
     // Queued, so that an accessibility client that chooses the item does not wait for the box that
     // the item opens.
     connect(
         action, &QAction::triggered, this,
-        [this, entry] {
+        [this, item] {
           if (isBlocked(*this)) return;
           announcer_.menuClosed();
-          entry->choose();
+          item->choose();
         },
         Qt::QueuedConnection);
   }

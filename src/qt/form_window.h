@@ -35,14 +35,14 @@ class FormWindow final : public QMainWindow {
  private:
   /// Opens the first menu with its first enabled item selected.
   void openMenu();
-  void addMenu(QMenu& menu, const platform::MenuItem& item);
+  void addMenu(QMenu& menu, const platform::MenuItem& submenu);
 
   void moveOntoScreen();
 
   platform::Form& form_;
   const Zoom& zoom_;
   FormView* view_;
-  /// A window maximised again before this expires is not restored: the desktop insists.
+  /// If the desktop maximises the window again before this expires, the window stays maximised.
   QDeadlineTimer nextRestore_;
   Announcer announcer_{*this};
 };

@@ -19,11 +19,11 @@
 namespace qt {
 namespace {
 
-constexpr const char* howToRead =
-    ". The arrow keys go through the text, Tab to its links, Escape closes it";
+constexpr const char* keyHint =
+    ". Arrow keys move through the text, Tab moves to links, Escape closes the help";
 
-/// Returns what keeps the file from being shown, as the end of a sentence; empty if nothing does.
-QString faultOf(const QString& path) {
+/// Returns why the file cannot be shown, as the end of a sentence; empty if it can.
+QString problemWith(const QString& path) {
   QFile file(path);
   if (!file.exists()) return "cannot be found";
   if (!file.open(QIODevice::ReadOnly)) return "cannot be read";
@@ -31,7 +31,7 @@ QString faultOf(const QString& path) {
   if (content.trimmed().isEmpty()) return "is empty";
   QStringDecoder decoder(QStringDecoder::Utf8);
   const QString text = decoder(content);
-  if (decoder.hasError() || text.contains(QChar::Null)) return "is damaged: it is not a text";
+  if (decoder.hasError() || text.contains(QChar::Null)) return "is not a text file";
   return {};
 }
 
@@ -125,24 +125,25 @@ HelpWindow::HelpWindow(double zoom) : text_(new HelpText(this, announcer_)) {
 
 bool HelpWindow::showContents(const QString& path) {
   path_ = path;
-  const QString fault = faultOf(path);
-  if (fault.isEmpty()) {
+  const QString problem = problemWith(path);
+  if (problem.isEmpty()) {
     text_->setSource(QUrl::fromLocalFile(path), QTextDocument::HtmlResource);
     text_->reload();  // the file may have changed
     text_->verticalScrollBar()->setValue(0);
   } else {
-    text_->setPlainText(QString("The help file \"%1\" %2.").arg(QFileInfo(path).fileName(), fault));
+    text_->setPlainText(
+        QString("The help file \"%1\" %2.").arg(QFileInfo(path).fileName(), problem));
   }
   text_->clearHistory();
   text_->setFocus();  // a tool button may have it
   waitForScreenReader();
   // Spoken once the window is shown.
   announcer_.announce(text_->document()->firstBlock().text().trimmed() +
-                      (fault.isEmpty() ? howToRead : ""));
+                      (problem.isEmpty() ? keyHint : ""));
   showNormal();
   raise();
   activateWindow();
-  return fault.isEmpty();
+  return problem.isEmpty();
 }
 
 void HelpWindow::keyPressEvent(QKeyEvent* event) {

@@ -19,12 +19,11 @@
 namespace qt {
 namespace {
 
-constexpr const char* noDisplay =
-    "cannot open a window, because there is no display to open it on.";
+constexpr const char* noDisplay = "cannot open a window: there is no display.";
 
 /// Messages of Qt when it cannot open windows, and what to tell the user instead; the most helpful
 /// first.
-constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
+constexpr auto knownFailures = std::to_array<std::pair<const char*, const char*>>({
     {"Could not find the Qt platform plugin \"wayland\"",
      "cannot open a window in this Wayland session, because the package qt6-wayland is not "
      "installed."},
@@ -38,7 +37,7 @@ constexpr auto obstacles = std::to_array<std::pair<const char*, const char*>>({
 }
 
 /// Returns the messages of Qt while it starts.
-QString& heldMessages() {
+QString& startupMessages() {
   static QString messages;
   return messages;
 }
@@ -47,23 +46,24 @@ QString& heldMessages() {
 /// helpful message. Qt itself would abort with a core dump and paragraphs of plug-in names. An
 /// unknown problem is reported in Qt's words, except for warnings without a category, such as the
 /// one about the locale, which are never the reason.
-void reportObstacle(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+void reportStartupFailure(QtMsgType type, const QMessageLogContext& context,
+                          const QString& message) {
   static QString reasons;
-  heldMessages() += qFormatLogMessage(type, context, message) + '\n';
+  startupMessages() += qFormatLogMessage(type, context, message) + '\n';
   if (type == QtFatalMsg || QByteArrayView(context.category).startsWith("qt.")) {
     reasons += message.trimmed() + '\n';
   }
   if (type != QtFatalMsg) return;
   const auto* const found = std::ranges::find_if(
-      obstacles, [](const auto& obstacle) { return heldMessages().contains(obstacle.first); });
-  exitWith(found == obstacles.end() ? qPrintable(reasons) : found->second);
+      knownFailures, [](const auto& failure) { return startupMessages().contains(failure.first); });
+  exitWith(found == knownFailures.end() ? qPrintable(reasons) : found->second);
 }
 
 }  // namespace
 
 std::unique_ptr<QApplication> QtDesktop::makeApplication() {
   QCoreApplication::setApplicationName(toQString(program_.name));
-  const QtMessageHandler handler = qInstallMessageHandler(reportObstacle);
+  const QtMessageHandler handler = qInstallMessageHandler(reportStartupFailure);
   auto application = std::make_unique<QApplication>(argumentCount_, arguments_.data());
   if (!QFontMetrics(QApplication::font()).inFont('0')) {
     exitWith(
@@ -71,7 +71,7 @@ std::unique_ptr<QApplication> QtDesktop::makeApplication() {
         "fonts-liberation.");
   }
   qInstallMessageHandler(handler);
-  std::cerr << qPrintable(std::exchange(heldMessages(), {}));
+  std::cerr << qPrintable(std::exchange(startupMessages(), {}));
   return application;
 }
 

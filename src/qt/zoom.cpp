@@ -12,7 +12,7 @@ namespace qt {
 namespace {
 
 constexpr std::array factors{1.0, 1.25, 1.5, 2.0, 2.5, 3.0, 4.0};
-constexpr int twice = 3;
+constexpr int indexOfTwo = 3;
 constexpr int largeScreen = 1800;  // device-independent pixels of height
 
 }  // namespace
@@ -20,8 +20,10 @@ constexpr int largeScreen = 1800;  // device-independent pixels of height
 Zoom::Zoom(std::function<bool(double)> fits, std::function<void(const QString&)> announce)
     : fits_(std::move(fits)),
       announce_(std::move(announce)),
-      usualFont_(QApplication::font()),
-      start_(QGuiApplication::primaryScreen()->availableSize().height() < largeScreen ? 0 : twice) {
+      defaultFont_(QApplication::font()),
+      start_(QGuiApplication::primaryScreen()->availableSize().height() < largeScreen
+                 ? 0
+                 : indexOfTwo) {
   if (start_ != 0) stepTo(start_);
 }
 
@@ -31,7 +33,7 @@ double Zoom::factor() const {
 
 void Zoom::stepTo(int step) {
   step_ = step;
-  QFont font = usualFont_;
+  QFont font = defaultFont_;
   if (step != 0) font.setPointSizeF(QFontInfo(font).pointSizeF() * factor());
   QApplication::setFont(font);
   announce_(QString("%1 percent").arg(factor() * 100));

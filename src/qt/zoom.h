@@ -8,8 +8,9 @@
 
 namespace qt {
 
-/// Zoom factor of all windows, on top of the screen's scale factor. Forms ask for it; what Qt draws
-/// grows with the application's font, whose change notifies every window of a new factor.
+/// Zoom factor of all windows, on top of the screen's scale factor. Forms read it. What Qt draws
+/// grows with the application's font, and the font change also tells every window that the factor
+/// is new.
 ///
 /// As an application-wide event filter it changes the factor on Ctrl with +, -, 0 or the wheel, in
 /// every window that is not modal.
@@ -31,7 +32,7 @@ class Zoom final : public QObject {
 
   std::function<bool(double factor)> fits_;
   std::function<void(const QString&)> announce_;
-  QFont usualFont_;
+  QFont defaultFont_;
   int start_;
   int step_ = 0;   ///< index of the factor
   int wheel_ = 0;  ///< turned since the last step, in eighths of a degree
