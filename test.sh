@@ -117,9 +117,9 @@ clang_build() {
     ctest --test-dir "$build" --no-tests=error --output-on-failure --parallel "$(nproc)"
 }
 
-# Checks the unified source files of the clang build. With this word in their path, the static
-# analyzer also looks into the files that they include. clang-tidy counts warnings in the system's
-# headers too, which it does not show.
+# clang-tidy checks the unified source files of the clang build. Its static analyzer looks into the
+# .cpp files that these include only if their path contains this word. Its counts of warnings are
+# left out, since they include those in system headers, which it does not show.
 unified=UnifiedSource
 tidy() {
   find "build/$unified/CMakeFiles"/{game,window,tessoro}.dir/Unity -name '*.cxx' -print0 |
