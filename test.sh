@@ -76,6 +76,17 @@ metainfo() {
   [[ ! $faults ]] || { echo "$faults" >&2; return 1; }
 }
 
+# hardening-check fails on more than this: on what only some Debians and processors have, and on
+# fortified functions, which so small a program does not call.
+hardened() {
+  local report feature
+  report=$(hardening-check "$1") || true
+  for feature in 'Position Independent Executable' 'Stack protected' 'Read-only relocations' \
+    'Immediate binding'; do
+    grep -q "$feature: yes" <<<"$report" || { echo "$report" >&2; return 1; }
+  done
+}
+
 packaged_files() {
   local root=$package/root
   dpkg-deb --extract "$package"/first/tessoro_*.deb "$root" &&
@@ -84,9 +95,7 @@ packaged_files() {
       "$package"/first/*.changes &&
     desktop-file-validate "$root/usr/share/applications/tessoro.desktop" &&
     metainfo "$root/usr/share/metainfo/org.example.tessoro.metainfo.xml" &&
-    # So small a program calls no function that can be fortified, and not every Debian asks for
-    # control flow protection.
-    hardening-check --nofortify --nocfprotection "$root/usr/games/tessoro" &&
+    hardened "$root/usr/games/tessoro" &&
     PATH=$PWD/$root/usr/games:$PATH debian/tests/press-a-cell
 }
 
@@ -108,9 +117,9 @@ clang_build() {
     ctest --test-dir "$build" --no-tests=error --output-on-failure --parallel "$(nproc)"
 }
 
-# Checks the unified source files of the clang build. With this word in their path, the static
-# analyzer also looks into the files that they include. clang-tidy counts warnings in the system's
-# headers too, which it does not show.
+# clang-tidy checks the unified source files of the clang build. Its static analyzer looks into the
+# .cpp files that these include only if their path contains this word. Its counts of warnings are
+# left out, since they include those in system headers, which it does not show.
 unified=UnifiedSource
 tidy() {
   find "build/$unified/CMakeFiles"/{game,window,tessoro}.dir/Unity -name '*.cxx' -print0 |
