@@ -99,9 +99,10 @@ QImage toQImage(const platform::Picture& picture, int size) {
 }
 
 QIcon toQIcon(const platform::Picture& picture) {
+  const QImage image = toQImage(picture, platform::Picture::size);
   QIcon icon;
-  for (const int size : {32, 64, 128}) {
-    icon.addPixmap(QPixmap::fromImage(toQImage(picture, size)));
+  for (const int times : {1, 2, 4}) {
+    icon.addPixmap(QPixmap::fromImage(image.scaled(image.size() * times)));
   }
   return icon;
 }

@@ -31,8 +31,9 @@ FormWindow::FormWindow(platform::Form& form, const Zoom& zoom)
   }
   setCentralWidget(view_);
   layout()->setSizeConstraint(QLayout::SetFixedSize);
-  // Without this, the window would keep the cursor of a box that closes under the mouse.
-  setCursor(Qt::ArrowCursor);
+  // Without this, the window would keep the cursor of a box that closes under the mouse. Queued,
+  // because loading the cursor theme would delay the window.
+  QMetaObject::invokeMethod(this, [this] { setCursor(Qt::ArrowCursor); }, Qt::QueuedConnection);
   // Qt's own title bars can maximise even a window of fixed size. Release the size when that
   // happens, because some desktops terminate a program that does not accept the size they set.
   create();
