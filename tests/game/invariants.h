@@ -42,8 +42,7 @@ class Invariants {
   /// the cell that the event pressed, 0 for other events, and `said` the sentence spoken after it.
   std::string broken(int pressed, const std::string& said) {
     const Position before = std::exchange(now_, Position(game_));
-    const bool changed = before.look != now_.look;
-    const bool moved = pressed != 0 && changed && !before.stating;
+    const bool moved = pressed != 0 && before.look != now_.look && !before.stating;
     if (!modeIsShown()) return "Buttons, messages and menu fit the mode";
     for (int i = 1; i <= gridCells; ++i) {
       if (!looksLikeItsKind(i))

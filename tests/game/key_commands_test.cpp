@@ -11,13 +11,6 @@ TEST_F(KeyCommandsTest, SameCharacterAgainIsNoMove) {
   EXPECT_EQ(caption(49), "6") << "column 7's value; a move elsewhere would show row 7's";
 }
 
-TEST_F(KeyCommandsTest, PAndXNeedNoShift) {
-  type(18, 'p');
-  EXPECT_EQ(caption(18), "+");
-  type(18, 'x');
-  EXPECT_EQ(caption(18), "*");
-}
-
 TEST_F(KeyCommandsTest, NGoesToTheNextEmptyCellAndShiftNToTheOneBefore) {
   turn(15, "5 + 3 -");
   type(15, 'n');

@@ -49,4 +49,18 @@ TEST_F(SettingAPuzzleTest, SearchGivesUpAfter500Attempts) {
   EXPECT_EQ(game.state.PuzzleNo, 1) << "a failed search uses no number";
 }
 
+TEST_F(SettingAPuzzleTest, FailedSearchClearsAnEarlierSolution) {
+  setCorners("7138");
+  click(form.Solveit);
+  setCorners("1439");
+  failNextSearch();
+  click(form.Solveit);
+  EXPECT_EQ(caption(17), "");
+}
+
+TEST_F(SettingAPuzzleTest, SolvePuzzleWaitsForTheCorners) {
+  click(form.Solveit);
+  EXPECT_EQ(lastSaid(), "Set the corners first");
+}
+
 }  // namespace tessoro::test

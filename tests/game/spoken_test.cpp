@@ -44,6 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
     Sets, KeyTest,
     testing::Values(Key{"ANumber", 31, '5', "5"}, Key{"TheSameNumber", 3, '7', "7"},
                     Key{"AMinus", 32, '-', "minus"}, Key{"ATimes", 32, '*', "times"},
+                    Key{"XForTimes", 32, 'x', "times"}, Key{"PForPlus", 32, 'p', "plus"},
                     Key{"ANumberOneUp", 31, '+', "1"}, Key{"ANumberOneDown", 31, '-', "9"},
                     Key{"AResult", 5, '2', "2, row 1 is 2, top right is wrong, target 1"},
                     Key{"AFullLine", 18, '*', "times, row 3 is full, no digit"}),

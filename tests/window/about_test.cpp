@@ -6,14 +6,7 @@ namespace tessoro::test {
 struct AboutTest : ClientTest {
   /// Opens About and returns whether it is still open after `then`.
   bool staysOpen(const std::function<void(Box)>& then) {
-    bool open = false;
-    onBox = [&](Box box) {
-      then(box);
-      open = box.widget.isVisible();
-      box.widget.close();
-    };
-    choose("About");
-    return open;
+    return WindowTest::staysOpen([&] { choose("About"); }, then);
   }
 };
 
@@ -40,6 +33,13 @@ TEST_F(AboutTest, TextIsReadOut) {
     EXPECT_TRUE(read.endsWith("Tessoro developers. tessoro@example.org. Version 1.0"))
         << read.toStdString();
   });
+}
+
+TEST_F(AboutTest, ReturnPressesOk) {
+  EXPECT_FALSE(staysOpen([&](Box) {
+    time += 500;  // until it accepts keys
+    tap(Qt::Key_Return);
+  }));
 }
 
 TEST_F(AboutTest, AnyMouseButtonOverTheTextClosesIt) {

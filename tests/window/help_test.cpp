@@ -17,7 +17,31 @@ struct HelpTest : ClientTest {
     said();
     tap(Qt::Key_Return);
   }
+  void clickTool(const QString& name) const {
+    for (auto* it : help->findChildren<QToolButton*>())
+      if (it->text() == name) it->click();
+  }
 };
+
+TEST_F(HelpTest, OpeningItReadsItsTitleAndKeys) {
+  EXPECT_EQ(help->windowTitle(), "Tessoro Help");
+  EXPECT_EQ(said(), QStringList("Tessoro. Arrow keys move through the text, Tab moves to links, "
+                                "Escape closes the help"));
+}
+
+TEST_F(HelpTest, TabReadsTheNextLink) {
+  said();
+  tap(Qt::Key_Tab);
+  EXPECT_EQ(said(), QStringList("the keys, link"));
+}
+
+TEST_F(HelpTest, ContentsAndBackReturnToTheTop) {
+  for (const char* tool : {"Contents", "Back"}) {
+    followTheFirstLink();
+    clickTool(tool);
+    EXPECT_EQ(scrolled(), 0) << tool;
+  }
+}
 
 TEST_F(HelpTest, ReturnFollowsTheLinkAndReadsItsTarget) {
   const int before = scrolled();
@@ -41,24 +65,9 @@ TEST_F(HelpTest, EscapeClosesItAfterAScreenReaderHasNoticedTheKey) {
   EXPECT_FALSE(help->isVisible());
 }
 
-struct HelpFileTest : WindowTest {
-  const QTemporaryDir folder;
-
-  /// What help shows for a file with this content, or without the file if it is null.
-  QString shown(const QByteArray& content) {
-    QFile file(folder.filePath("some.hlp"));
-    if (!content.isNull() && file.open(QIODevice::WriteOnly)) file.write(content);
-    file.close();
-    const qt::Zoom zoom{{}, {}};
-    qt::QtHelpViewer viewer({"/none", folder.path()}, zoom);
-    viewer.WinHelpA(game.form, "some.hlp", platform::HELP_CONTENTS, 0);
-    settle();
-    return QApplication::activeWindow()->findChild<QTextBrowser*>()->toPlainText();
-  }
-};
-
-TEST_F(HelpFileTest, MissingFileIsReported) {
-  EXPECT_EQ(shown({}), "The help file \"some.hlp\" cannot be found.");
+TEST_F(HelpTest, MissingFileIsReported) {
+  desktop.helpViewer().WinHelpA(game.form, "none.hlp", platform::HELP_CONTENTS, 0);
+  EXPECT_EQ(text->toPlainText(), "The help file \"none.hlp\" cannot be found.");
 }
 
 }  // namespace tessoro::test

@@ -9,23 +9,15 @@ struct KeyGuardTest : WindowTest {
     send(QEvent::KeyPress, key, {}, {});
   }
   void waitUntilBoxAcceptsKeys() { time += 500; }
-  /// Opens a message box and returns whether it is still open after `then`.
   bool boxStaysOpen(const std::function<void()>& then) {
-    bool open = false;
-    onBox = [&](Box box) {
-      then();
-      open = box.widget.isVisible();
-      box.widget.close();
-    };
-    desktop.messageBox("Well ?", platform::Desktop::Buttons::yesNo);
-    return open;
+    const auto open = [&] { desktop.messageBox("Well ?", platform::Desktop::Buttons::yesNo); };
+    return staysOpen(open, [&](Box) { then(); });
   }
 };
 
 TEST_F(KeyGuardTest, HeldKeyPressesOnce) {
   cell(17).SetFocus();
   press(Qt::Key_Space);
-  repeat(Qt::Key_Space);
   repeat(Qt::Key_Space);
   EXPECT_EQ(caption(17), "1");
 }
@@ -34,19 +26,11 @@ TEST_F(KeyGuardTest, HeldArrowKeepsMoving) {
   cell(15).SetFocus();
   press(Qt::Key_Right);
   repeat(Qt::Key_Right);
-  repeat(Qt::Key_Right);
-  EXPECT_EQ(focusedCell(), 18);
+  EXPECT_EQ(focusedCell(), 17);
 }
 
 TEST_F(KeyGuardTest, BoxIgnoresKeysForHalfASecond) {
   EXPECT_TRUE(boxStaysOpen([&] { tap(Qt::Key_Return); }));
-}
-
-TEST_F(KeyGuardTest, BoxAcceptsAKeyAfterHalfASecond) {
-  EXPECT_FALSE(boxStaysOpen([&] {
-    waitUntilBoxAcceptsKeys();
-    tap(Qt::Key_Return);
-  }));
 }
 
 TEST_F(KeyGuardTest, BoxIgnoresAKeyHeldSinceBefore) {

@@ -12,11 +12,7 @@ struct MessageBoxTest : ClientTest {
   }
 };
 
-TEST_F(MessageBoxTest, ClosingAnswersNo) {
-  EXPECT_EQ(show(Buttons::yesNo, [](Box box) { box.widget.close(); }), Answer::no);
-}
-
-TEST_F(MessageBoxTest, MinimisingClosesIt) {
+TEST_F(MessageBoxTest, MinimisingClosesItWithTheAnswerNo) {
   EXPECT_EQ(show(Buttons::yesNo, [](Box box) { box.widget.showMinimized(); }), Answer::no);
 }
 

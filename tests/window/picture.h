@@ -35,7 +35,7 @@ class Picture {
   /// The first pixel that differs; empty if there is none.
   QString difference() const {
     // Repainting a part of a large letter blends its edges a little differently.
-    const int tolerance = scale_ == 1 ? 0 : 20;
+    const int tolerance = scale_ == 1 ? 0 : 40;
     for (int i = 0; i < shown_.width() * shown_.height(); ++i) {
       const QPoint at(i % shown_.width(), i / shown_.width());
       const QRgb is = shown_.pixel(at), described = expected_.pixel(at);

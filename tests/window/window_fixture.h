@@ -108,6 +108,18 @@ struct WindowTest : testing::Test {
     return index;
   }
 
+  /// Opens a box and returns whether it is still open after `then`.
+  bool staysOpen(const std::function<void()>& opens, const std::function<void(Box)>& then) {
+    bool open = false;
+    onBox = [&](Box box) {
+      then(box);
+      open = box.widget.isVisible();
+      box.widget.close();
+    };
+    opens();
+    return open;
+  }
+
   void click(QPoint at, Qt::MouseButton button = Qt::LeftButton) {
     QTest::mouseClick(window.windowHandle(), button, {}, view.mapTo(&window, at));
   }

@@ -11,20 +11,16 @@ TEST_F(WindowTest, ControlsMayOutliveIt) {
   EXPECT_EQ(caption(17), "1");
 }
 
-struct MaximisedTest : WindowTest {
-  const QSize own = window.size();
+TEST_F(WindowTest, HasTheGamesIcon) {
+  EXPECT_EQ(window.windowIcon().actualSize({200, 200}), QSize(128, 128));
+}
 
-  /// As the title bars that Qt draws do.
-  void maximise() const {
+TEST_F(WindowTest, BoardStaysAtTheTopLeftIfTheDesktopMaximisesIt) {
+  for (int attempts = 0; attempts < 2; ++attempts) {  // the window undoes the first
     window.windowHandle()->setWindowStates(Qt::WindowMaximized);
     settle();
   }
-};
-
-TEST_F(MaximisedTest, BoardStaysAtTheTopLeftIfTheDesktopInsists) {
-  maximise();
-  maximise();
-  EXPECT_GT(window.width(), 2 * own.width());
+  EXPECT_GT(window.width(), 1000);
   EXPECT_EQ(view.pos().x(), 0);
 }
 
