@@ -9,12 +9,4 @@ TEST_F(CornersTest, RightCornerShowsAFaceInsteadOfItsTarget) {
   EXPECT_EQ(corners(), ":) :) 3 8");
 }
 
-TEST_F(CornersTest, FourRightCornersEndThePuzzle) {
-  solveExcept(33);
-  turnTo(33, "2");
-  EXPECT_EQ(lastSaid(), "You got it ! [OK]");
-  press(33);
-  EXPECT_EQ(caption(33), "2") << "the puzzle is over";
-}
-
 }  // namespace tessoro::test

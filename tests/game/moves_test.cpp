@@ -27,6 +27,7 @@ TEST_F(MovesTest, FirstMoveShowsResultsAndTargets) {
             "= # = # = # =\n"
             "? . ? . ? = ?\n");
   EXPECT_EQ(corners(), ":) 1 3 8");
+  EXPECT_EQ(form.RightMess.caption(), "Get corner numbers right");
 }
 
 TEST_F(MovesTest, LeftPressCountsUp) {

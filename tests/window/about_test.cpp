@@ -10,9 +10,10 @@ struct AboutTest : ClientTest {
   }
 };
 
-TEST_F(AboutTest, HasTheSizeAndPictureOfTheFormAtEachZoom) {
+TEST_F(AboutTest, HasTheTitleSizeAndPictureOfTheFormAtEachZoom) {
   for (const QSize size : {QSize(317, 97), QSize(396, 121)}) {
     staysOpen([&](Box box) {
+      EXPECT_EQ(box.widget.windowTitle(), "About Tessoro");
       EXPECT_EQ(box.widget.maximumSize(), size);
       const auto* text = box.widget.findChild<QTextEdit*>();
       EXPECT_EQ(difference(AboutForm(), *text->parentWidget()), "");
@@ -36,7 +37,8 @@ TEST_F(AboutTest, TextIsReadOut) {
 }
 
 TEST_F(AboutTest, ReturnPressesOk) {
-  EXPECT_FALSE(staysOpen([&](Box) {
+  EXPECT_FALSE(staysOpen([&](Box box) {
+    EXPECT_EQ(box.firstButton()->text(), "OK");
     time += 500;  // until it accepts keys
     tap(Qt::Key_Return);
   }));

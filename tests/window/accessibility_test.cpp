@@ -27,10 +27,10 @@ TEST_F(AccessibilityTest, NewNameOfTheFocusIsNotReadOutBesideTheSentence) {
 }
 
 TEST_F(AccessibilityTest, FocusIsReportedAgainAfterAMenuCommand) {
-  act(cell(16), "SetFocus");
+  act(cell(7), "SetFocus");
   client.notified(QAccessible::Focus);
   choose("Set a Puzzle for computer to solve");
-  EXPECT_EQ(client.notified(QAccessible::Focus), QStringList("empty, row 3 column 2"));
+  EXPECT_TRUE(client.notified(QAccessible::Focus).contains("not set, row 1 column 7"));
 }
 
 TEST_F(AccessibilityTest, ClientsAreNotNotifiedDuringASearch) {

@@ -15,6 +15,13 @@ TEST_F(WindowTest, HasTheGamesIcon) {
   EXPECT_EQ(window.windowIcon().actualSize({200, 200}), QSize(128, 128));
 }
 
+TEST_F(WindowTest, ClosingItUnloadsTheForm) {
+  bool unloaded = false;
+  game.form.unload = [&] { unloaded = true; };
+  window.close();
+  EXPECT_TRUE(unloaded);
+}
+
 TEST_F(WindowTest, BoardStaysAtTheTopLeftIfTheDesktopMaximisesIt) {
   for (int attempts = 0; attempts < 2; ++attempts) {  // the window undoes the first
     window.windowHandle()->setWindowStates(Qt::WindowMaximized);
