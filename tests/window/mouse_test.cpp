@@ -18,8 +18,7 @@ TEST_F(MouseTest, ChangedCellRedrawsLittleElse) {
   cell(17).caption = "5";
   settle();
   screen(view);
-  EXPECT_LE(view.drawnControls() - before, 6)
-      << "the cell, the frame and the cells that it touches";
+  EXPECT_LE(view.drawnControls() - before, 6) << "the cell, the frame and its neighbours";
 }
 
 }  // namespace tessoro::test

@@ -117,6 +117,7 @@ struct WindowTest : testing::Test {
       box.widget.close();
     };
     opens();
+    EXPECT_FALSE(boxes.isEmpty()) << "no box has opened";
     return open;
   }
 
