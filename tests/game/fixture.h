@@ -107,8 +107,9 @@ struct GameTest : testing::Test, Digits {
   /// Chooses the menu item with this caption.
   void choose(const std::string& text) {
     for (const auto* item : form.Gamex.items) {
-      if (item->caption() == text) item->choose();
+      if (item->caption() == text) return item->choose();
     }
+    FAIL() << "The menu has no item \"" << text << '"';
   }
   /// Types a character on the cell, a capital with Shift. Returns whether it has a meaning there.
   static bool type(const Cell& on, char character) {

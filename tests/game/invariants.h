@@ -52,7 +52,8 @@ class Invariants {
       return "Every line of a solution is true, and it has the corners that were set";
     if (moved && (before.over || !cell(pressed).enabled()))
       return "Nothing moves after the end of a puzzle or on a disabled cell";
-    if (moved && !resultsFit(pressed)) return "After a move each result is the value of its line";
+    if (moved && !resultsFit(pressed))
+      return "After a move each result shows and says the value of its line";
     if (moved && !cornersFit())
       return "Corners are right, green and under a face, or wrong, black and beside their target; "
              "four right ones end the puzzle";
@@ -112,16 +113,22 @@ class Invariants {
   static int apply(int left, const std::string& op, int right) {
     return op == "+" ? left + right : op == "-" ? left - right : left * right;
   }
-  /// The result of the line with this first cell, calculated without the code under test.
+  /// The spoken result of the line with this first cell, calculated without the code under test.
   static std::string resultOf(const Texts& texts, int first, int step) {
     const auto text = [&](int place) { return texts[first + place * step]; };
     for (const int place : {0, 1, 2, 3, 4}) {
-      if (text(place).empty() || text(place) == "?") return "?";
+      if (text(place).empty() || text(place) == "?") return "no value";
     }
     const int a = std::stoi(text(0)), b = std::stoi(text(2)), c = std::stoi(text(4));
     const int value = text(3) == "*" && text(1) != "*" ? apply(a, text(1), b * c)
                                                        : apply(apply(a, text(1), b), text(3), c);
-    return value >= 1 && value <= 9 ? std::to_string(value) : "?";
+    return value >= 1 && value <= 9 ? std::to_string(value) : "no digit";
+  }
+  bool shows(int index, const std::string& result) const {
+    return now_.texts[index] == (result.starts_with("no") ? "?" : result);
+  }
+  bool showsAndSays(int index, const std::string& result) const {
+    return shows(index, result) && spokenCell(game_.form.board, index) == result;
   }
 
   bool modeIsShown() const {
@@ -153,13 +160,13 @@ class Invariants {
     for (const int i : {1, 3, 5}) {
       const std::string row = resultOf(now_.texts, 7 * i - 6, 1);
       const std::string column = resultOf(now_.texts, i, 7);
-      if (now_.texts[7 * i] != row || now_.texts[42 + i] != column) return false;
-      known = known && row != "?" && column != "?";
+      if (!showsAndSays(7 * i, row) || !showsAndSays(42 + i, column)) return false;
+      known = known && !row.starts_with("no") && !column.starts_with("no");
     }
     // After an operator of column 7 the last cell shows that column's value, otherwise row 7's.
-    if (pressed == 14 || pressed == 28) return now_.texts[49] == resultOf(now_.texts, 7, 7);
+    if (pressed == 14 || pressed == 28) return shows(49, resultOf(now_.texts, 7, 7));
     const bool ofRow7 = pressed == 44 || pressed == 46;
-    return now_.texts[49] == (known || ofRow7 ? resultOf(now_.texts, 43, 1) : "?");
+    return shows(49, known || ofRow7 ? resultOf(now_.texts, 43, 1) : "no value");
   }
 
   bool cornersFit() const {

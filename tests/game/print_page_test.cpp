@@ -41,11 +41,6 @@ TEST_F(PrintPageTest, PrintsThreePuzzlesBesideTheirSolutions) {
   EXPECT_EQ(desktop.documents, 1);
 }
 
-TEST_F(PrintPageTest, FirstPuzzleIsPrintedAlone) {
-  choose("Print");
-  EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 1 [Yes] [No]");
-}
-
 TEST_F(PrintPageTest, FourthPuzzleReplacesTheFirst) {
   for (int number = 2; number <= 4; ++number) makePuzzle();
   choose("Print");

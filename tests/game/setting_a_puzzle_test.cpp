@@ -13,15 +13,8 @@ struct SettingAPuzzleTest : GameTest {
 };
 
 TEST_F(SettingAPuzzleTest, AsksForTheCornersOfAnEmptyBoard) {
-  EXPECT_EQ(grid(),
-            "? . . . . = ?\n"
-            ". # . # . # .\n"
-            ". . . . . = .\n"
-            ". # . # . # .\n"
-            ". . . . . = .\n"
-            "= # = # = # =\n"
-            "? . . . . = ?\n");
-  EXPECT_EQ(corners(), ". . . .");
+  EXPECT_EQ(caption(7), "?");
+  EXPECT_EQ(caption(17), "");
 }
 
 TEST_F(SettingAPuzzleTest, SolvePuzzleShowsASolutionWithThoseCorners) {
@@ -49,13 +42,10 @@ TEST_F(SettingAPuzzleTest, SearchGivesUpAfter500Attempts) {
   EXPECT_EQ(game.state.PuzzleNo, 1) << "a failed search uses no number";
 }
 
-TEST_F(SettingAPuzzleTest, FailedSearchClearsAnEarlierSolution) {
-  setCorners("7138");
-  click(form.Solveit);
-  setCorners("1439");
-  failNextSearch();
-  click(form.Solveit);
-  EXPECT_EQ(caption(17), "");
+TEST_F(SettingAPuzzleTest, EndComputerSolutionModeReturnsToPlay) {
+  choose("End computer solution mode");
+  EXPECT_EQ(form.SolveMx.caption(), "Set a Puzzle for computer to Solve");
+  EXPECT_FALSE(game.state.SolveMode);
 }
 
 TEST_F(SettingAPuzzleTest, SolvePuzzleWaitsForTheCorners) {

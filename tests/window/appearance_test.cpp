@@ -14,17 +14,6 @@ TEST_F(AppearanceTest, ControlsLookAsTheyDescribeThemselves) {
   EXPECT_EQ(difference(), "");
 }
 
-TEST_F(AppearanceTest, TextIsNoFainterBehindABox) {
-  QPalette theme = window.palette();
-  theme.setColor(QPalette::Inactive, QPalette::WindowText, Qt::red);
-  window.setPalette(theme);
-  QWidget other;
-  other.show();
-  other.activateWindow();
-  settle();
-  EXPECT_EQ(difference(), "");
-}
-
 TEST_F(AppearanceTest, BordersStandOutInAThemeWithFaintOnes) {
   QPalette theme{QColor(0x9390ec)};
   theme.setColor(QPalette::Light, 0x9592ee);

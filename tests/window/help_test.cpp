@@ -65,9 +65,35 @@ TEST_F(HelpTest, EscapeClosesItAfterAScreenReaderHasNoticedTheKey) {
   EXPECT_FALSE(help->isVisible());
 }
 
-TEST_F(HelpTest, MissingFileIsReported) {
-  desktop.helpViewer().WinHelpA(game.form, "none.hlp", platform::HELP_CONTENTS, 0);
-  EXPECT_EQ(text->toPlainText(), "The help file \"none.hlp\" cannot be found.");
+/// Help whose file is damaged.
+struct HelpFileTest : HelpTest {
+  QString shown(const QString& file) {
+    desktop.helpViewer().WinHelpA(game.form, file.toStdString(), platform::HELP_CONTENTS, 0);
+    return text->toPlainText();
+  }
+  QString shownFor(const QByteArray& content) {
+    QFile file(QDir::temp().filePath("bad.hlp"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    return shown(file.fileName());
+  }
+};
+
+TEST_F(HelpFileTest, MissingFileIsReported) {
+  EXPECT_EQ(shown("bad.hlp"), "The help file \"bad.hlp\" cannot be found.");
+}
+
+TEST_F(HelpFileTest, FolderInItsPlaceIsReported) {
+  EXPECT_EQ(shown("."), "The help file \".\" cannot be read.");
+}
+
+TEST_F(HelpFileTest, EmptyFileIsReported) {
+  EXPECT_EQ(shownFor(" \n"), "The help file \"bad.hlp\" is empty.");
+}
+
+TEST_F(HelpFileTest, BinaryFileIsReported) {
+  EXPECT_EQ(shownFor("\xff"), "The help file \"bad.hlp\" is not a text file.");
 }
 
 }  // namespace tessoro::test

@@ -12,7 +12,7 @@ struct PressingKey {
 };
 struct PressingKeyTest : WindowTest, testing::WithParamInterface<PressingKey> {};
 
-TEST_P(PressingKeyTest, OnA5) {
+TEST_P(PressingKeyTest, SetsACellThatShows5) {
   cell(17).SetFocus();
   type("5");
   const auto& [name, key, text, shown] = GetParam();
@@ -47,17 +47,17 @@ TEST_P(MovingKeyTest, MovesTheFocus) {
   EXPECT_EQ(focusedCell(), to);
 }
 
-INSTANTIATE_TEST_SUITE_P(Keys, MovingKeyTest,
-                         testing::Values(MovingKey{"RightOverAHole", 24, Qt::Key_Right, 26},
-                                         MovingKey{"UpOverAHole", 16, Qt::Key_Up, 2},
-                                         MovingKey{"UpOverAnotherHole", 18, Qt::Key_Up, 4},
-                                         MovingKey{"HomeInTheRow", 18, Qt::Key_Home, 15},
-                                         MovingKey{"ToTheFirst", 18, Qt::CTRL | Qt::Key_Home, 1},
-                                         MovingKey{"ToTheLast", 18, Qt::CTRL | Qt::Key_End, 49}),
-                         testing::PrintToStringParamName());
+INSTANTIATE_TEST_SUITE_P(
+    Keys, MovingKeyTest,
+    testing::Values(MovingKey{"RightOverAHole", 24, Qt::Key_Right, 26},
+                    MovingKey{"UpOverAHole", 16, Qt::Key_Up, 2},
+                    MovingKey{"HomeInTheRow", 18, Qt::Key_Home, 15},
+                    MovingKey{"CtrlHomeToTheFirstCell", 18, Qt::CTRL | Qt::Key_Home, 1},
+                    MovingKey{"CtrlEndToTheLastCell", 18, Qt::CTRL | Qt::Key_End, 49}),
+    testing::PrintToStringParamName());
 
 struct KeysTest : PictureTest {
-  /// The selected menu item; empty while the menu is closed.
+  /// Returns the selected menu item; empty while the menu is closed.
   static QString selectedItem() {
     const auto* popup = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
     return popup == nullptr ? "" : popup->activeAction()->text();
@@ -69,14 +69,20 @@ TEST_F(KeysTest, TabAndUpReturnFromTheButtonToTheCell) {
     cell(17).SetFocus();
     tap(Qt::Key_Tab);
     tap(back);
-    EXPECT_EQ(focusedCell(), 17);
+    EXPECT_EQ(focusedCell(), 17) << "after " << back;
   }
+}
+
+TEST_F(KeysTest, ButtonThatAppearsInAnothersPlaceGetsItsFocus) {
+  tap(Qt::Key_Tab);
+  choose("Set a Puzzle for computer to solve");
+  EXPECT_EQ(focused(), &game.form.Solveit);
 }
 
 TEST_F(KeysTest, MenuKeysOpenTheMenuAndEscapeReturnsToTheCell) {
   for (const auto menuKey : {Qt::Key_F10, Qt::Key_Alt}) {
     tap(menuKey);
-    EXPECT_EQ(selectedItem(), "Start a Solution");
+    EXPECT_EQ(selectedItem(), "Start a Solution") << "after " << menuKey;
     tap(Qt::Key_Escape);
     EXPECT_EQ(selectedItem(), "");
     EXPECT_EQ(difference(&cell(1)), "");

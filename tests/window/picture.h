@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 
 #include "window_fixture.h"
@@ -39,8 +40,8 @@ class Picture {
     for (int i = 0; i < shown_.width() * shown_.height(); ++i) {
       const QPoint at(i % shown_.width(), i / shown_.width());
       const QRgb is = shown_.pixel(at), described = expected_.pixel(at);
-      if (std::abs(qRed(is) - qRed(described)) > tolerance ||
-          std::abs(qBlue(is) - qBlue(described)) > tolerance)
+      if (std::max({std::abs(qRed(is) - qRed(described)), std::abs(qGreen(is) - qGreen(described)),
+                    std::abs(qBlue(is) - qBlue(described))}) > tolerance)
         return QDebug::toString(at) + " is " + QColor(is).name() + ", not " +
                QColor(described).name();
     }
