@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . packaging/prepare.sh
 
-# Whoever starts this may have closed the standard streams, which the tools below do not expect.
+# Reopen closed standard streams, which the tools below need.
 [[ -e /dev/fd/0 ]] || exec </dev/null
 [[ -e /dev/fd/1 ]] || exec >/dev/null
 [[ -e /dev/fd/2 ]] || exec 2>/dev/null
@@ -19,7 +19,7 @@ install_packages g++ cmake ninja-build qt6-base-dev qt6-wayland \
   fonts-dejavu-core fonts-liberation cups-client
 remove_moved_build build/release
 if [[ ! -e build/release/tessoro ]]; then echo 'Building the game.' >&2; fi
-# What CMake finds is of no interest to a player. What it misses goes to standard error.
+# Hide CMake's status output. Its errors go to standard error.
 cmake --preset release >/dev/null
 cmake --build --preset release --target tessoro -- --quiet |
   sed '/^ninja: no work to do\.$/d'

@@ -9,8 +9,8 @@ remove_moved_build() {
   fi
 }
 
-# Runs apt-get as root with the arguments, after an update of its lists. Ends the script if that is
-# not possible.
+# Runs apt-get as root with the arguments, after "apt-get update". Ends the script if that is not
+# possible.
 apt_get() {
   local as_root=()
   if ((EUID != 0)); then
@@ -23,7 +23,7 @@ apt_get() {
     fi
     as_root=(sudo)
   fi
-  # Nobody is there to be asked: configuration files that the machine has changed stay.
+  # apt-get must not prompt; locally changed configuration files stay as they are.
   if ! "${as_root[@]}" apt-get update || ! "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
     apt-get "$@" -y -o Dpkg::Options::=--force-confdef -o Dpkg::Options::=--force-confold; then
     echo "Packages are missing and could not be installed: apt-get $*" >&2
@@ -31,7 +31,7 @@ apt_get() {
   fi
 }
 
-# Installs those of the Debian packages that are missing.
+# Installs the listed Debian packages that are missing.
 install_packages() {
   if ! command -v apt-get >/dev/null; then
     echo "There is no apt-get here, so these packages are expected to be installed: $*" >&2

@@ -29,7 +29,7 @@ class Narrator {
 
   /// Runs an event's handler, then calls `outcome` and says what it returns.
   void narrate(const std::function<void()>& handler, Sentence outcome);
-  /// Says the outcome of the running handler early, because the handler is about to show a box.
+  /// Says the outcome unless it has been said. A handler that shows a box calls this first.
   void sayOutcome();
 
   /// Call before the press. The returned function, called after it, says what the press changed, or
@@ -40,12 +40,12 @@ class Narrator {
   void explainRefusal(int cell) { say(whyNotSet(cell)); }
   /// Says why a press on the disabled button "Solve Puzzle" did nothing.
   void explainDisabledSolveit() { say(whyNotSolved()); }
-  /// Says what can be typed on cell 1..49 or on a button (0), after a character that does not fit.
+  /// Says what cell 1..49 accepts, or that a button (0) cannot be set.
   void explainTyping(int cell);
   /// Says why the key N finds no empty cell.
   void explainNoEmptyCell();
 
-  // Outcomes of commands; empty if a message box has said enough.
+  // Outcomes of commands; empty if a message box has already told the player.
   std::string firstPuzzle() const;   ///< of the search at the start
   std::string puzzleMade() const;    ///< of "New Puzzle"
   std::string puzzleSolved() const;  ///< of "Solve Puzzle"
@@ -53,14 +53,14 @@ class Narrator {
   std::string modeSwitched() const;  ///< of entering or leaving set-a-puzzle mode
 
  private:
-  /// Results and corners as the player last heard them, in words.
+  /// Results and the status of corners in words, to find what a press changes.
   struct Heard {
     std::array<std::string, gridCells + 1> results;  ///< empty if not a result
-    std::array<std::string, 5> corners;              ///< of the corners 1..4
+    std::array<std::string, 5> corners;              ///< 1..4; empty until play has begun
   };
 
   Heard heard() const;
-  /// Returns what has changed on the board since `before`, each change after a comma.
+  /// Returns what has changed on the board since `before`, each change preceded by a comma.
   std::string changesSince(const Heard& before) const;
   std::string whyNotSet(int cell) const;
   std::string whyNotSolved() const;

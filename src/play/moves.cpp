@@ -77,7 +77,7 @@ void Moves::play(int index, const std::string& caption) {
   cornerCheck_.CheckCorners();
 }
 
-/// Runs before nearly every move, because the right corner at the top left hides its target again.
+/// Runs before nearly every move: the top left corner is correct, so CheckCorners() hides cell 50.
 void Moves::beginMove() {
   board_.setOuterCornersVisible(true);
   results_.updateAll();

@@ -9,7 +9,7 @@ namespace {
 constexpr int emptyLinesAbove = 4;
 constexpr std::size_t indentation = 5;
 
-/// Returns the puzzle number in a heading line as text; empty for an unused slot.
+/// Returns the puzzle number that a heading shows; empty for an unused slot.
 std::string_view numberIn(std::string_view heading) {
   if (!heading.starts_with(PrintPage::headingText)) return {};
   heading.remove_prefix(PrintPage::headingText.size());

@@ -18,7 +18,7 @@ constexpr std::string_view cellLine = "|   |   |   |   |   |   |   |";
 constexpr std::string_view separatorLine = "|---|---|---|---|---|---|---|";
 constexpr std::string_view holeMark = "///";
 
-/// Returns the index, in a line of the page, of the first of a cell's three characters.
+/// Returns the index, from 0, of a cell's first character in a line of the page.
 constexpr std::size_t innerStart(int grid, int cell) {
   return static_cast<std::size_t>(grid + 4 * columnOf(cell) - 3 - 1);
 }

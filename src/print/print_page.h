@@ -9,8 +9,8 @@
 
 namespace tessoro {
 
-/// Text page of the last three puzzles, each with its solution beside it. It is filled as puzzles
-/// are made, so printing needs neither the board nor the puzzle.
+/// Text page with three slots, one for each of the last three puzzles and its solution. It is
+/// filled as puzzles are made, so `PrintCommand` needs neither the board nor the puzzle.
 class PrintPage {
  public:
   /// Number of printed lines: elements 1..55 of `PrintLines`.

@@ -64,7 +64,7 @@ Announcer::~Announcer() {
 
 void Announcer::announce(const QString& sentence) {
   if (window_.isVisible()) {
-    speak();  // the last sentence, if it is still waiting
+    speak();  // the previous sentence, if not spoken yet
     speakLater();
   }
   sentence_ = sentence;

@@ -19,11 +19,11 @@ class Announcer final : public QObject, private QAccessible::ActivationObserver 
   ~Announcer() override;
 
   /// Speaks the sentence after the pending events, so that it follows what the screen reader says
-  /// about these. The last sentence waits until the window is shown and a screen reader runs.
+  /// about these. The newest sentence waits until the window is shown and a screen reader runs.
   void announce(const QString& sentence);
-  /// Speaks the text when the window is shown. Where Qt has announcements it is one, because screen
-  /// readers would speak a description twice. Elsewhere it is the window's description, because a
-  /// sentence would make screen readers name the dialog twice.
+  /// Speaks the text when the window is shown. From Qt 6.8 on, it is an announcement, because
+  /// screen readers would speak a description twice. Elsewhere it is the window's description,
+  /// because a sentence would make screen readers name the dialog twice.
   void introduce(const QString& text);
   /// Call when a command has been chosen from the window's menu. Qt sends no focus event when a
   /// menu closes, so the announcer sends one before the next sentence, unless the focus has moved.

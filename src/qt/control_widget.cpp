@@ -22,7 +22,7 @@ using platform::Accessible;
 using platform::CellPane;
 using platform::MouseButton;
 
-/// Left, right and middle have the same numbers in Qt; all others are `other`.
+/// Converts a button: the first three have the same numbers in Qt, all others are `other`.
 MouseButton toMouseButton(Qt::MouseButton button) {
   return static_cast<MouseButton>(std::min<int>(button, static_cast<int>(MouseButton::other)));
 }

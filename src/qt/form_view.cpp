@@ -16,7 +16,7 @@
 namespace qt {
 namespace {
 
-/// Converts a place to pixels, `scale` per device-independent pixel, with the client area's top
+/// Converts a place to pixels, `scale` per 15 twips, with the client area's top
 /// left at `origin`.
 QRect pixelRect(const platform::Place& place, double scale, QPoint origin = {}) {
   const auto edge = [&](int twips) {
@@ -130,7 +130,7 @@ void FormView::add(platform::CommandButton* button, const platform::Place& place
   });
 }
 
-/// Waits for the handler to finish or yield, so that a change that it undoes is not drawn.
+/// Queues the refresh, so that a change that the running handler undoes is not drawn.
 void FormView::refreshSoon() {
   if (std::exchange(refreshScheduled_, true)) return;
   QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
@@ -161,7 +161,7 @@ void FormView::hideWidget(ControlWidget& widget) {
       if (item.widget->geometry() == widget.geometry()) item.widget->setFocus();
     }
   }
-  // Qt then moves the focus as Tab does, which shows the focus ring.
+  // hide() calls focusNextPrevChild(), which records that the keyboard is in use.
   const bool keysUsed = keysUsed_;
   widget.hide();
   setKeysUsed(keysUsed);

@@ -39,7 +39,7 @@ class SetAPuzzle {
   void SolveMx_Click();
   /// Searches for a solution with the user's corners and shows it.
   void Solveit_Click();
-  /// Answers a right click on "Solve Puzzle"; ignores its arguments.
+  /// Shows a message after a right-click on "Solve Puzzle"; ignores its arguments.
   void Solveit_ContextMenu(std::int16_t Shift, double X, double Y);
 
  private:

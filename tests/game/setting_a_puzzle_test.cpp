@@ -48,9 +48,4 @@ TEST_F(SettingAPuzzleTest, EndComputerSolutionModeReturnsToPlay) {
   EXPECT_FALSE(game.state.SolveMode);
 }
 
-TEST_F(SettingAPuzzleTest, SolvePuzzleWaitsForTheCorners) {
-  click(form.Solveit);
-  EXPECT_EQ(lastSaid(), "Set the corners first");
-}
-
 }  // namespace tessoro::test

@@ -26,8 +26,7 @@ INSTANTIATE_TEST_SUITE_P(
                     PressingKey{"ReturnCountsUp", Qt::Key_Return, "\r", "6"},
                     PressingKey{"EnterCountsUp", Qt::KeypadModifier | Qt::Key_Enter, "\r", "6"},
                     PressingKey{"BackspaceCountsDown", Qt::Key_Backspace, "\b", "4"},
-                    PressingKey{"KeypadPlusCountsUp", Qt::KeypadModifier | Qt::Key_Plus, "+", "6"},
-                    PressingKey{"AltDigitDoesNothing", Qt::ALT | Qt::Key_3, "3", "5"}),
+                    PressingKey{"KeypadPlusCountsUp", Qt::KeypadModifier | Qt::Key_Plus, "+", "6"}),
     testing::PrintToStringParamName());
 
 /// A key, and the cells between which it moves the focus.
