@@ -30,7 +30,7 @@ void Game::connectEvents() {
   // nothing, because the search is about to replace it.
   const auto unlessSearching = [this](auto handler) {
     return [this, handler](auto... arguments) {
-      if (search.underWay()) return decltype(handler(arguments...))();
+      if (search.isRunning()) return decltype(handler(arguments...))();
       return handler(arguments...);
     };
   };

@@ -41,7 +41,7 @@ void Narrator::repeat() {
   say(last_.empty() ? firstPuzzle() : last_);
 }
 
-void Narrator::narrate(const std::function<void()>& handler, Sentence outcome) {
+void Narrator::narrate(const std::function<void()>& handler, Outcome outcome) {
   outcome_ = std::move(outcome);
   handler();
   sayOutcome();
@@ -51,16 +51,16 @@ void Narrator::sayOutcome() {
   if (outcome_) say(std::exchange(outcome_, nullptr)());
 }
 
-Narrator::Sentence Narrator::outcomeOfPress(int cell) const {
-  return [this, cell, before = heard(), settable = moves_.canSet(cell)] {
+Narrator::Outcome Narrator::outcomeOfPress(int cell) const {
+  return [this, cell, before = snapshot(), settable = moves_.canSet(cell)] {
     if (!settable) return whyNotSet(cell);
     const std::string shown = spoken(form_.board.GridDisp[cell].caption());
     return state_.SolveMode ? shown : shown + changesSince(before);
   };
 }
 
-Narrator::Heard Narrator::heard() const {
-  Heard now;
+Narrator::Snapshot Narrator::snapshot() const {
+  Snapshot now;
   for (int cell = 1; cell <= gridCells; ++cell) {
     if (!lineName(cell).empty()) now.results[cell] = spokenCell(form_.board, cell);
   }
@@ -68,9 +68,10 @@ Narrator::Heard Narrator::heard() const {
   return now;
 }
 
-std::string Narrator::changesSince(const Heard& before) const {
-  const Heard now = heard();
-  if (before.corners[1].empty()) return ", no line has a value yet";
+std::string Narrator::changesSince(const Snapshot& before) const {
+  const Snapshot now = snapshot();
+  const bool isFirstMove = before.corners[1].empty();
+  if (isFirstMove) return ", no line has a value yet";
   std::string words;
   for (int cell = 1; cell <= gridCells; ++cell) {
     const std::string& result = now.results[cell];
@@ -82,8 +83,8 @@ std::string Narrator::changesSince(const Heard& before) const {
   }
   for (int k = 1; k <= 4; ++k) {
     if (now.corners[k] == before.corners[k]) continue;
-    const bool isRight = form_.board.NPict[k].Visible();
-    words += ", " + cornerName(k) + (isRight ? " is correct" : " is wrong" + now.corners[k]);
+    const bool isCorrect = form_.board.NPict[k].Visible();
+    words += ", " + cornerName(k) + (isCorrect ? " is correct" : " is wrong" + now.corners[k]);
   }
   return words;
 }

@@ -16,7 +16,8 @@ namespace tessoro {
 /// sentences a hundred times in a puzzle, so each is as short as possible.
 class Narrator {
  public:
-  using Sentence = std::function<std::string()>;
+  /// Function that is called after an event and returns the sentence that says what it changed.
+  using Outcome = std::function<std::string()>;
 
   Narrator(const Form1& form, const PuzzleState& state, const Moves& moves,
            const SolutionSearch& search, platform::Desktop& desktop)
@@ -27,14 +28,14 @@ class Narrator {
   /// Repeats the last sentence, or describes the first puzzle if nothing has been said yet.
   void repeat();
 
-  /// Runs an event's handler, then calls `outcome` and says what it returns.
-  void narrate(const std::function<void()>& handler, Sentence outcome);
+  /// Runs an event's handler, then says the outcome.
+  void narrate(const std::function<void()>& handler, Outcome outcome);
   /// Says the outcome unless it has been said. A handler that shows a box calls this first.
   void sayOutcome();
 
   /// Call before the press. The returned function, called after it, says what the press changed, or
   /// why it changed nothing.
-  Sentence outcomeOfPress(int cell) const;
+  Outcome outcomeOfPress(int cell) const;
 
   /// Says why a press on the disabled cell 0..53 did nothing.
   void explainRefusal(int cell) { say(whyNotSet(cell)); }
@@ -54,14 +55,14 @@ class Narrator {
 
  private:
   /// Results and the status of corners in words, to find what a press changes.
-  struct Heard {
+  struct Snapshot {
     std::array<std::string, gridCells + 1> results;  ///< empty if not a result
     std::array<std::string, 5> corners;              ///< 1..4; empty until play has begun
   };
 
-  Heard heard() const;
+  Snapshot snapshot() const;
   /// Returns what has changed on the board since `before`, each change preceded by a comma.
-  std::string changesSince(const Heard& before) const;
+  std::string changesSince(const Snapshot& before) const;
   std::string whyNotSet(int cell) const;
   std::string whyNotSolved() const;
 
@@ -70,7 +71,7 @@ class Narrator {
   const Moves& moves_;
   const SolutionSearch& search_;
   platform::Desktop& desktop_;
-  Sentence outcome_;  ///< of the running handler, until it is said
+  Outcome outcome_;   ///< of the running handler, until it is said
   std::string last_;  ///< the last sentence said
 };
 

@@ -113,7 +113,7 @@ void describeCorner(int k, Board& board) {
   const auto name = [k, &board] {
     return describe(CornerCells[k], board) + cornerStatus(board, k);
   };
-  // In set-a-puzzle mode, the user sets the corners.
+  // In set-a-puzzle mode, the player sets the corners.
   board.GridDisp[CornerCells[k]].accessible = {
       Accessible::Role::button, name, {press, decrease}, true};
   Cell& target = board.GridDisp[OuterCornerCells[k]];

@@ -18,7 +18,7 @@ void describeForScreenReaders(Form1& form);
 std::string spoken(const std::string& caption);
 
 /// Returns what cell 1..49 shows, in words. "?" becomes "no digit" if a line that ends there is
-/// full, "not set" if it is a corner that the user has yet to set, and otherwise "no value". A
+/// full, "not set" if it is a corner that the player has yet to set, and otherwise "no value". A
 /// player who sees the board can tell these apart.
 std::string spokenCell(const Board& board, int cell);
 

@@ -21,7 +21,8 @@ struct PuzzleState {
   std::array<std::string, 17> SolNumbers;
   std::array<std::string, 17> SolOperators;
 
-  /// Numbers that the user has set for the board's corners, 1..9; 0 or less leaves a corner free.
+  /// Numbers that the player has set for the board's corners, 1..9; 0 or less leaves a corner
+  /// free.
   std::int16_t TargetTL = -1;
   std::int16_t TargetTR = -1;
   std::int16_t TargetBL = -1;
@@ -29,7 +30,7 @@ struct PuzzleState {
 
   /// Number of the current puzzle, 1..32767; 0 before the first.
   std::int16_t PuzzleNo = 0;
-  /// Whether the user is setting a puzzle for the computer.
+  /// Whether the player is setting a puzzle for the computer.
   bool SolveMode = false;
   /// Whether the current puzzle is over. In play, presses on the board then do nothing.
   bool BoardLocked = false;

@@ -4,8 +4,8 @@
 
 namespace tessoro {
 
-bool CornerCheck::isRight(int k) const {
-  // A missing number reads as 0 on both sides, which is never right.
+bool CornerCheck::isCorrect(int k) const {
+  // A missing number reads as 0 on both sides, which is never correct.
   const int number = readNumber(state_.SolNumbers[cornerNumbers[k]]);
   return number != 0 && number == readNumber(board_.GridDisp[CornerCells[k]].caption());
 }
@@ -14,11 +14,11 @@ void CornerCheck::CheckCorners() {
   state_.BoardLocked = false;
   bool solved = true;
   for (int k = 1; k <= 4; ++k) {
-    const bool right = isRight(k);
-    board_.GridDisp[OuterCornerCells[k]].Visible = !right;
-    board_.GridDisp[CornerCells[k]].backcolor = right ? ColGreen : ColBlack;
-    board_.NPict[k].Visible = right;
-    solved = solved && right;
+    const bool correct = isCorrect(k);
+    board_.GridDisp[OuterCornerCells[k]].Visible = !correct;
+    board_.GridDisp[CornerCells[k]].backcolor = correct ? ColGreen : ColBlack;
+    board_.NPict[k].Visible = correct;
+    solved = solved && correct;
   }
   if (!solved) return;
   RightMess_.Visible = false;

@@ -16,14 +16,15 @@ class CornerCheck {
               platform::Desktop& desktop)
       : state_(state), board_(board), RightMess_(RightMess), desktop_(desktop) {}
 
-  /// Shows each right corner in green with a smiling face, each wrong one in black with its target.
-  /// When all four are right, locks the board, shows a message and returns after it is closed.
+  /// Shows each correct corner in green with a smiling face, each wrong one in black with its
+  /// target. When all four are correct, locks the board, shows a message and returns after it is
+  /// closed.
   void CheckCorners();
   /// Called before that message.
   std::function<void()> beforeMessage;
 
  private:
-  bool isRight(int k) const;
+  bool isCorrect(int k) const;
 
   PuzzleState& state_;
   Board& board_;

@@ -52,7 +52,8 @@ bool Moves::isOperator(int index) const {
 }
 
 void Moves::setCell(int index, const std::string& caption) {
-  // While the user sets a puzzle, an event on any cell enables the button, even if nothing is set.
+  // While the player sets a puzzle, a press on any cell enables the button, even if it sets
+  // nothing.
   if (state_.SolveMode) Solveit_.enabled = true;
   Cell& cell = board_.GridDisp[index];
   if (!canSet(index) || cell.caption() == caption) return;
@@ -70,10 +71,10 @@ void Moves::play(int index, const std::string& caption) {
   cell.caption = caption;
   const std::string_view tag = cell.Tag();
   results_.UpdateLines(isOperator(index) ? tag.substr(1) : tag);
-  // Cell 49 ends two lines. After an operator of either has changed, it shows that line's value.
-  const bool ownLine =
+  // Row 7 and column 7 both end in cell 49. An operator of either leaves its line's value there.
+  const bool inLastLine =
       isOperator(index) && (rowOf(index) == gridSide || columnOf(index) == gridSide);
-  if (!ownLine) results_.UpdateCornerResult();
+  if (!inLastLine) results_.UpdateCornerResult();
   cornerCheck_.CheckCorners();
 }
 

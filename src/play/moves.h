@@ -11,8 +11,8 @@
 
 namespace tessoro {
 
-/// Handlers of mouse presses and typed characters on the board. In play they make the player's
-/// moves; while the user sets a puzzle, they set the corners' numbers.
+/// Handlers of mouse presses and typed characters on the board. In play they make moves; in
+/// set-a-puzzle mode they set the corners' numbers.
 class Moves {
  public:
   Moves(PuzzleState& state, Board& board, Results& results, CornerCheck& cornerCheck,
@@ -29,7 +29,7 @@ class Moves {
   void GridDisp_MouseDown(int Index, const platform::MousePress& press);
 
   /// Returns whether cell 0..53 can be set now: in play, a number or an operator until the puzzle
-  /// is over; while the user sets a puzzle, a corner.
+  /// is over; in set-a-puzzle mode, a corner.
   bool canSet(int index) const;
   /// Returns whether the character fits into a cell that can be set: an operator into an operator
   /// cell, a digit 1..9 into any other.

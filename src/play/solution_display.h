@@ -6,16 +6,16 @@
 
 namespace tessoro {
 
-/// Display of the solution on the board.
+/// Handler of the menu command "Show Solution", and what it shares with "Solve Puzzle".
 class SolutionDisplay {
  public:
   SolutionDisplay(PuzzleState& state, Board& board, platform::Label& RightMess)
       : state_(state), board_(board), RightMess_(RightMess) {}
 
-  /// Gives up: shows the solution and ends the puzzle.
+  /// Shows the solution and ends the puzzle.
   void ShowSolx_Click();
-  /// Writes the stored solution onto the board, with green corners. It is incomplete after a search
-  /// that gave up.
+  /// Writes the stored solution onto the board, with green corners. After a failed search the
+  /// stored solution is incomplete.
   void ShowSolution();
 
  private:

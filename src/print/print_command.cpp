@@ -21,8 +21,8 @@ std::string_view numberIn(std::string_view heading) {
 
 std::string PrintCommand::puzzleNumbers() const {
   std::string list;
-  for (const int heading : PrintPage::headings) {
-    const std::string_view number = numberIn(page_.PrintLines[heading]);
+  for (const int line : PrintPage::headingLines) {
+    const std::string_view number = numberIn(page_.PrintLines[line]);
     if (number.empty()) continue;
     if (!list.empty()) list += ", ";
     list += number;

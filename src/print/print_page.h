@@ -16,7 +16,7 @@ class PrintPage {
   /// Number of printed lines: elements 1..55 of `PrintLines`.
   static constexpr int lineCount = 55;
   /// Heading lines of the three slots; the 15 lines below each are its grids.
-  static constexpr std::array<int, 3> headings{1, 20, 39};
+  static constexpr std::array<int, 3> headingLines{1, 20, 39};
   static constexpr std::string_view headingText = "Puzzle No";
 
   PrintPage(const Board& board, const PuzzleState& state) : board_(board), state_(state) {}
@@ -31,8 +31,8 @@ class PrintPage {
   void RecordPuzzleForPrint();
 
  private:
-  void write(int heading, int grid, int cell, char text);
-  void drawGrid(int heading, int grid);
+  void write(int headingLine, int gridColumn, int cell, char text);
+  void drawGrid(int headingLine, int gridColumn);
 
   const Board& board_;
   const PuzzleState& state_;

@@ -157,7 +157,7 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
   const Qt::KeyboardModifiers modifiers =
       event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
   const bool plain = modifiers == Qt::NoModifier;
-  const bool control = modifiers == Qt::ControlModifier;
+  const bool ctrl = modifiers == Qt::ControlModifier;
   const auto* pressing =
       std::ranges::find(pressingKeys, event->key(), &std::pair<int, MouseButton>::first);
   if (plain && pressing != pressingKeys.end()) {
@@ -165,7 +165,7 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
     press(pressing->second);
   } else if (plain && type(event->text(), event->modifiers().testFlag(Qt::ShiftModifier))) {
     view_.setKeysUsed(true);
-  } else if (!(plain || control) || !view_.moveFocus(*this, event->key(), control)) {
+  } else if (!(plain || ctrl) || !view_.moveFocus(*this, event->key(), ctrl)) {
     event->ignore();
   }
 }

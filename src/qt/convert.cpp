@@ -30,43 +30,43 @@ double brightness(const QColor& colour) {
 
 /// Returns the contrast ratio of two colours, from 1 for the same to 21 for black and white.
 double contrast(const QColor& one, const QColor& other) {
-  const auto [less, more] = std::minmax({brightness(one), brightness(other)});
-  return more / less;
+  const auto [darker, brighter] = std::minmax({brightness(one), brightness(other)});
+  return brighter / darker;
 }
 
-/// Returns the theme's `own` colour if its contrast to the face is at least `least`. Otherwise goes
+/// Returns the theme's colour if its contrast to the face is at least `minimum`. Otherwise goes
 /// from the face to each of `ends` in turn and returns the first shade with that contrast.
-QColor contrastingShade(const QColor& own, const QColor& face, double least,
+QColor contrastingShade(const QColor& themeColour, const QColor& face, double minimum,
                         std::initializer_list<QColor> ends) {
-  if (contrast(own, face) >= least) return own;
+  if (contrast(themeColour, face) >= minimum) return themeColour;
   for (const QColor& end : ends) {
     for (int step = 1; step <= 64; ++step) {
       const auto part = [&](int from, int to) { return from + (to - from) * step / 64; };
       const QColor shade(part(face.red(), end.red()), part(face.green(), end.green()),
                          part(face.blue(), end.blue()));
-      if (contrast(shade, face) >= least) return shade;
+      if (contrast(shade, face) >= minimum) return shade;
     }
   }
-  return own;
+  return themeColour;
 }
 
 }  // namespace
 
 QPalette boardPalette(QPalette palette) {
   // The contrasts in Qt's own style: 1.15 for the highlight, 2.29 for the shadow.
-  static const QColor usualFace(239, 239, 239);
-  static const double leastHighlight = contrast(Qt::white, usualFace);
-  static const double leastShadow = contrast(QColor(159, 159, 159), usualFace);
+  static const QColor defaultFace(239, 239, 239);
+  static const double minimumHighlight = contrast(Qt::white, defaultFace);
+  static const double minimumShadow = contrast(QColor(159, 159, 159), defaultFace);
   palette.setCurrentColorGroup(QPalette::Active);
   const QColor face = palette.color(QPalette::Button);
   const QColor shadow =
-      contrastingShade(palette.color(QPalette::Dark), face, leastShadow, {Qt::black, Qt::white});
+      contrastingShade(palette.color(QPalette::Dark), face, minimumShadow, {Qt::black, Qt::white});
   // Nothing is much darker than a dark face. So its shadow is lighter than the face, and its
   // highlight lighter still: the light seems to come from the top left, as in light themes.
   const bool isLighter = brightness(shadow) > brightness(face);
   const QColor highlight =
       contrastingShade(palette.color(QPalette::Light), face,
-                       leastHighlight * (isLighter ? leastShadow : 1), {Qt::white, Qt::black});
+                       minimumHighlight * (isLighter ? minimumShadow : 1), {Qt::white, Qt::black});
   palette.setColor(QPalette::Light, highlight);
   palette.setColor(QPalette::Dark, shadow);
   return palette;
@@ -82,18 +82,18 @@ QColor toQColor(platform::Colour colour, const QPalette& palette) {
 
 QFont toQFont(const platform::Font& font, double scale, double logicalDpi) {
   QFont result(toQString(font.name));
-  result.setPointSizeF(font.points * scale * 1440 / twipsPerPixel / logicalDpi);
+  result.setPointSizeF(font.points * scale * 1440 / unzoomedTwipsPerPixel / logicalDpi);
   result.setBold(font.bold);
   return result;
 }
 
 QImage toQImage(const platform::Picture& picture, int size) {
-  constexpr int own = platform::Picture::size;
-  QImage image(own, own, QImage::Format_ARGB32);
-  for (int y = 0; y < own; ++y) {
-    for (int x = 0; x < own; ++x) image.setPixel(x, y, pixelColour(picture.rows[y][x]));
+  constexpr int ownSize = platform::Picture::size;
+  QImage image(ownSize, ownSize, QImage::Format_ARGB32);
+  for (int y = 0; y < ownSize; ++y) {
+    for (int x = 0; x < ownSize; ++x) image.setPixel(x, y, pixelColour(picture.rows[y][x]));
   }
-  const int larger = (size + own - 1) / own * own;
+  const int larger = (size + ownSize - 1) / ownSize * ownSize;
   return image.scaled(larger, larger)
       .scaled(size, size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }

@@ -14,7 +14,7 @@
 namespace qt {
 
 /// Twips per device-independent pixel, without zoom.
-constexpr double twipsPerPixel = 15;
+constexpr double unzoomedTwipsPerPixel = 15;
 
 /// Converts a text in UTF-8.
 inline QString toQString(std::string_view text) {

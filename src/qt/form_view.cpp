@@ -16,11 +16,10 @@
 namespace qt {
 namespace {
 
-/// Converts a place to pixels, `scale` per 15 twips, with the client area's top
-/// left at `origin`.
+/// Converts a place to pixels, `scale` per 15 twips, with the client area's top left at `origin`.
 QRect pixelRect(const platform::Place& place, double scale, QPoint origin = {}) {
   const auto edge = [&](int twips) {
-    return static_cast<int>(std::lround(twips / twipsPerPixel * scale));
+    return static_cast<int>(std::lround(twips / unzoomedTwipsPerPixel * scale));
   };
   const QPoint topLeft(edge(place.left), edge(place.top));
   const QPoint bottomRight(edge(place.left + place.width), edge(place.top + place.height));
@@ -36,7 +35,7 @@ QRegion pixelRegion(const QRegion& region, const QTransform& toPixels) {
 /// Focus move of a key in the grid: first across, then down, each by one step or to the edge.
 struct FocusMove {
   int key = 0;
-  bool control = false;
+  bool ctrl = false;
   QPoint across;
   QPoint down;
   bool toEdge = false;
@@ -140,7 +139,7 @@ void FormView::refresh() {
   refreshScheduled_ = false;
   for (Item& item : items_) {
     const Look before = std::exchange(item.look, lookOf(item.control));
-    if (item.look != before) updatePlace(item.place);
+    if (item.look != before) repaintSoon(item.place);
     if (item.widget != nullptr && item.look.visible) item.widget->show();
   }
   // Hide controls last, so that the focus can move to the control shown instead.
@@ -172,7 +171,7 @@ void FormView::setYielding(bool yielding) {
   if (!yielding) refreshSoon();
 }
 
-void FormView::updatePlace(const platform::Place& place) {
+void FormView::repaintSoon(const platform::Place& place) {
   // At a fractional scale the edges that are drawn may lie a pixel further out.
   const auto isWhole = [](double scale) { return scale == std::floor(scale); };
   const int margin = isWhole(zoom_) && isWhole(devicePixelRatioF()) ? 0 : 1;
@@ -219,7 +218,7 @@ void FormView::moveRing() {
   const ControlWidget* before = std::exchange(ringed_, keysUsed_ ? focused : nullptr);
   if (ringed_ == before) return;
   for (const ControlWidget* widget : {before, ringed_}) {
-    if (widget != nullptr) updatePlace(widget->place());
+    if (widget != nullptr) repaintSoon(widget->place());
   }
 }
 
@@ -244,9 +243,9 @@ ControlWidget* FormView::neighbour(const ControlWidget& of, QPoint direction) co
   return nullptr;
 }
 
-bool FormView::moveFocus(ControlWidget& from, int key, bool control) {
+bool FormView::moveFocus(ControlWidget& from, int key, bool ctrl) {
   const auto* found = std::ranges::find_if(
-      focusMoves, [&](const FocusMove& it) { return it.key == key && it.control == control; });
+      focusMoves, [&](const FocusMove& it) { return it.key == key && it.ctrl == ctrl; });
   if (found == focusMoves.end()) return false;
   setKeysUsed(true);
   ControlWidget* to = &from;

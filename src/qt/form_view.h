@@ -42,13 +42,13 @@ class FormView final : public QWidget {
 
   // For the widgets of the controls:
   /// Returns how many twips make a device-independent pixel.
-  double twipsPerPixel() const { return qt::twipsPerPixel / zoom_; }
+  double twipsPerPixel() const { return unzoomedTwipsPerPixel / zoom_; }
   /// Returns the rectangle of a place in the client area, in device-independent pixels.
   QRect rectOf(const platform::Place& place) const;
-  /// Moves the focus by an arrow key, Home or End; `control` says whether Ctrl is down. Notifies
-  /// the form if there is nothing in that direction. Returns false for any other key.
-  bool moveFocus(ControlWidget& from, int key, bool control);
-  /// Records whether the player works with the keyboard, and shows or hides the focus ring.
+  /// Moves the focus by an arrow key, Home or End; `ctrl` says whether Ctrl is down. Notifies the
+  /// form if there is nothing in that direction. Returns false for any other key.
+  bool moveFocus(ControlWidget& from, int key, bool ctrl);
+  /// Records whether the user works with the keyboard, and shows or hides the focus ring.
   void setKeysUsed(bool used);
 
  protected:
@@ -76,7 +76,7 @@ class FormView final : public QWidget {
   /// Repaints, shows and hides what has changed, and notifies accessibility clients.
   void refresh();
   void hideWidget(ControlWidget& widget);
-  void updatePlace(const platform::Place& place);
+  void repaintSoon(const platform::Place& place);
 
   platform::Form& form_;
   double zoom_;
@@ -87,14 +87,14 @@ class FormView final : public QWidget {
 
   // The keys.
   void setTabStop(ControlWidget* widget);
-  /// Moves the focus ring to where the focus is now, if the player works with the keyboard.
+  /// Moves the focus ring to where the focus is now, if the user works with the keyboard.
   void moveRing();
   /// Returns the next control of the grid in the direction, a step of one; null beyond the edge.
   ControlWidget* neighbour(const ControlWidget& of, QPoint direction) const;
 
   ControlWidget* tabStop_ = nullptr;       ///< the control of the grid that Tab reaches
   const ControlWidget* ringed_ = nullptr;  ///< the control with the focus ring, if any
-  /// Whether the player works with the keyboard. Tab, the menu keys and every key with a meaning on
+  /// Whether the user works with the keyboard. Tab, the menu keys and every key with a meaning on
   /// the board set it; the mouse clears it. Qt has such an attribute, too, but Qt 6.11 clears it
   /// whenever the focus moves by anything but Tab.
   bool keysUsed_ = false;

@@ -8,11 +8,11 @@
 
 namespace qt {
 
-/// Application-wide event filter that drops key events the player did not intend:
+/// Application-wide event filter that drops key events the user did not intend:
 ///
 /// - A held key presses what has the focus once; its repeats do nothing.
 /// - A box that has just opened ignores keys for half a second, and until every key that was
-///   already down is released. The player meant these keys for what was there before.
+///   already down is released. The user meant these keys for what was there before.
 class KeyGuard final : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -25,7 +25,7 @@ class KeyGuard final : public QObject {
  private:
   /// Returns whether the key press is a repeat of a held key.
   bool isRepeat(const QKeyEvent& event) const;
-  /// Returns whether the player may have meant the key for what was there before the box.
+  /// Returns whether the user may have meant the key for what was there before the box.
   bool isTooEarly(const QKeyEvent& event) const;
   /// Records which keys are down and which was released last.
   void record(const QKeyEvent& event);

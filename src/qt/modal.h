@@ -9,7 +9,7 @@ namespace qt {
 /// to open. Qt itself blocks the mouse and the keyboard, but not accessibility clients.
 bool isBlocked(const QWidget& widget);
 
-/// Gives a screen reader, if one is running, 100 ms to notice the key that the player has just
+/// Gives a screen reader, if one is running, 100 ms to notice the key that the user has just
 /// pressed; input waits. Call before a window opens or closes: a screen reader that notices the key
 /// later interrupts what it says about the window.
 void waitForScreenReader();

@@ -50,10 +50,10 @@ QPageSize defaultPaper() {
 }
 
 QPrinterInfo choosePrinter() {
-  const QPrinterInfo usual = QPrinterInfo::defaultPrinter();
-  if (!usual.isNull()) return usual;
+  const QPrinterInfo preferred = QPrinterInfo::defaultPrinter();
+  if (!preferred.isNull()) return preferred;
   const QList<QPrinterInfo> all = QPrinterInfo::availablePrinters();
-  return all.isEmpty() ? usual : all.first();
+  return all.isEmpty() ? preferred : all.first();
 }
 
 /// Runs a command of the print system, in English, and returns its standard output. Returns an

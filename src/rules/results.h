@@ -16,7 +16,7 @@ class Results {
   /// "RRCC"; "00" names none.
   void UpdateLines(std::string_view code);
   /// Shows the value of row 7 in cell 49, or "?" while any of the six other results is "?". Column
-  /// 7 also ends there, but is not computed, because row 7 would overwrite its value.
+  /// 7 also ends there, but is not computed here, because row 7 would overwrite its value.
   void UpdateCornerResult();
   /// Recomputes all rows and columns of numbers, then cell 49.
   void updateAll();

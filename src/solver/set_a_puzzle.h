@@ -12,7 +12,7 @@
 
 namespace tessoro {
 
-/// Mode in which the user sets the four corners of a puzzle and the computer solves it.
+/// Mode in which the player sets the four corners of a puzzle and the computer solves it.
 class SetAPuzzle {
  public:
   /// Controls that the mode shows, hides or disables.
@@ -37,7 +37,7 @@ class SetAPuzzle {
 
   /// Enters the mode, or leaves it if it is on.
   void SolveMx_Click();
-  /// Searches for a solution with the user's corners and shows it.
+  /// Searches for a solution with the player's corners and shows it.
   void Solveit_Click();
   /// Shows a message after a right-click on "Solve Puzzle"; ignores its arguments.
   void Solveit_ContextMenu(std::int16_t Shift, double X, double Y);

@@ -19,7 +19,7 @@ constexpr std::int16_t nextPuzzleNo(std::int16_t number) {
 }  // namespace
 
 void SolutionSearch::FindSolution() {
-  underWay_ = true;
+  isRunning_ = true;
   const std::int16_t numberBefore = state_.PuzzleNo;
   state_.PuzzleNo = nextPuzzleNo(numberBefore);
   SolveFound_ = true;
@@ -37,7 +37,7 @@ void SolutionSearch::FindSolution() {
       break;
     }
   }
-  underWay_ = false;
+  isRunning_ = false;
 }
 
 void SolutionSearch::succeed() {

@@ -10,7 +10,7 @@
 
 namespace tessoro {
 
-/// Search for a solution by random attempts. It makes new puzzles and solves the user's.
+/// Search for a solution by random attempts. It makes new puzzles and solves the player's.
 class SolutionSearch {
  public:
   SolutionSearch(PuzzleState& state, Board& board, Digits& digits, PrintPage& page,
@@ -33,7 +33,7 @@ class SolutionSearch {
   /// Returns whether the last search found a solution; true while one is running.
   bool SolveFound() const { return SolveFound_; }
   /// Returns whether a search is running, which has then yielded to the calling handler.
-  bool underWay() const { return underWay_; }
+  bool isRunning() const { return isRunning_; }
 
  private:
   void succeed();
@@ -47,7 +47,7 @@ class SolutionSearch {
   Cell& Solveit_;
   SolutionAttempt attempt_;
   bool SolveFound_ = false;
-  bool underWay_ = false;
+  bool isRunning_ = false;
 };
 
 }  // namespace tessoro

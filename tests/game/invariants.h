@@ -10,7 +10,7 @@
 
 namespace tessoro::test {
 
-/// The 7 by 7 cells as the player sees them: '.' is an empty one, '#' a hole.
+/// Returns the 7 by 7 cells as the player sees them: '.' is an empty one, '#' a hole.
 inline std::string drawnGrid(const Board& board) {
   std::string drawn;
   for (int i = 1; i <= gridCells; ++i) {
@@ -22,7 +22,7 @@ inline std::string drawnGrid(const Board& board) {
   return drawn;
 }
 
-/// What stands beside the four corners: ":)", the target, or "." for nothing.
+/// Returns what stands beside the four corners: ":)", the target, or "." for nothing.
 inline std::string drawnCorners(const Board& board) {
   std::string drawn;
   for (int k = 1; k <= 4; ++k) {
@@ -42,21 +42,22 @@ class Invariants {
   /// the cell that the event pressed, 0 for other events, and `said` the sentence spoken after it.
   std::string broken(int pressed, const std::string& said) {
     const Position before = std::exchange(now_, Position(game_));
-    const bool moved = pressed != 0 && before.look != now_.look && !before.stating;
+    const bool moved = pressed != 0 && before.look != now_.look && !before.setting;
     if (!modeIsShown()) return "Buttons, messages and menu fit the mode";
     for (int i = 1; i <= gridCells; ++i) {
       if (!looksLikeItsKind(i))
         return "Each cell looks like its kind and is enabled if it can be set";
     }
-    if (before.puzzle != now_.puzzle && !solutionIsRight())
+    if (before.puzzle != now_.puzzle && !solutionIsCorrect())
       return "Every line of a solution is true, and it has the corners that were set";
     if (moved && (before.over || !cell(pressed).enabled()))
       return "Nothing moves after the end of a puzzle or on a disabled cell";
     if (moved && !resultsFit(pressed))
       return "After a move each result shows and says the value of its line";
     if (moved && !cornersFit())
-      return "Corners are right, green and under a face, or wrong, black and beside their target; "
-             "four right ones end the puzzle";
+      return "Corners are correct, green and under a face, or wrong, black and beside their "
+             "target; "
+             "four correct ones end the puzzle";
     const bool onGrid = pressed != 0 && pressed <= gridCells && kinds[pressed] != '#';
     if (onGrid && said.empty()) return "Every press on the grid is followed by a sentence";
     if (onGrid && now_.texts[pressed] != before.texts[pressed] &&
@@ -65,7 +66,7 @@ class Invariants {
     return {};
   }
 
-  /// The position as text. Equal texts mean that the player sees and can do the same.
+  /// Returns the position as text. Equal texts mean that the player sees and can do the same.
   static std::string look(const Game& game) { return Position(game).look; }
 
  private:
@@ -84,10 +85,10 @@ class Invariants {
 
   struct Position {
     explicit Position(const Game& game)
-        : stating(game.state.SolveMode),
+        : setting(game.state.SolveMode),
           over(game.state.BoardLocked),
           puzzle(game.state.PuzzleNo),
-          look(game.form.caption() + (over ? " over" : "") + (stating ? " stating" : "")) {
+          look(game.form.caption() + (over ? " over" : "") + (setting ? " setting" : "")) {
       const Form1& form = game.form;
       look += form.RightMess.Visible() ? " get corners right" : "";
       look += form.Solveit.enabled() ? " can solve" : "";
@@ -98,7 +99,7 @@ class Invariants {
       }
       for (int i = 1; i <= gridCells; ++i) texts[i] = form.board.GridDisp[i].caption();
     }
-    bool stating;
+    bool setting;
     bool over;
     int puzzle;
     std::string look;
@@ -113,7 +114,8 @@ class Invariants {
   static int apply(int left, const std::string& op, int right) {
     return op == "+" ? left + right : op == "-" ? left - right : left * right;
   }
-  /// The spoken result of the line with this first cell, calculated without the code under test.
+  /// Returns the spoken result of the line with this first cell, calculated without the code under
+  /// test.
   static std::string resultOf(const Texts& texts, int first, int step) {
     const auto text = [&](int place) { return texts[first + place * step]; };
     for (const int place : {0, 1, 2, 3, 4}) {
@@ -136,8 +138,8 @@ class Invariants {
     for (const bool inPlay : {form.NewPuz.Visible(), form.StartSolx.enabled(),
                               form.ShowSolx.enabled(), !form.Solveit.Visible(),
                               !form.CompMess.Visible(), form.SolveMx.caption().starts_with("Set")})
-      if (inPlay == now_.stating) return false;
-    return !now_.stating || !form.RightMess.Visible();
+      if (inPlay == now_.setting) return false;
+    return !now_.setting || !form.RightMess.Visible();
   }
 
   bool looksLikeItsKind(int index) const {
@@ -151,8 +153,8 @@ class Invariants {
     if (!corner)
       return shows && it.Visible() && it.enabled() == (kind == '1' || kind == '+') &&
              it.backcolor() == (kind == '#' ? ColBlack : platform::buttonFace);
-    return shows && it.Visible() && it.enabled() == now_.stating && it.forecolor() == ColWhite &&
-           now_.stating == (it.backcolor() == ColRed);
+    return shows && it.Visible() && it.enabled() == now_.setting && it.forecolor() == ColWhite &&
+           now_.setting == (it.backcolor() == ColRed);
   }
 
   bool resultsFit(int pressed) const {
@@ -174,17 +176,17 @@ class Invariants {
     bool solved = true;
     for (int k = 1; k <= 4; ++k) {
       const Cell& target = cell(OuterCornerCells[k]);
-      const bool right = now_.texts[CornerCells[k]] == target.caption();
+      const bool correct = now_.texts[CornerCells[k]] == target.caption();
       if (" " + target.caption() != game_.state.SolNumbers[cornerNumbers[k]] ||
-          target.Visible() == right || game_.form.board.NPict[k].Visible() != right ||
-          cell(CornerCells[k]).backcolor() != (right ? ColGreen : ColBlack))
+          target.Visible() == correct || game_.form.board.NPict[k].Visible() != correct ||
+          cell(CornerCells[k]).backcolor() != (correct ? ColGreen : ColBlack))
         return false;
-      solved = solved && right;
+      solved = solved && correct;
     }
     return now_.over == solved && game_.form.RightMess.Visible() == !solved;
   }
 
-  bool solutionIsRight() const {
+  bool solutionIsCorrect() const {
     Texts solved;
     for (int k = 1; k <= 16; ++k) {
       solved[numberCells[k]] = game_.state.SolNumbers[k].substr(1);

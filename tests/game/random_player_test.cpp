@@ -18,7 +18,7 @@ struct RandomPlayerTest : GameTest {
   void act() {
     pressed = 0;
     if (below(50) == 0) desktop.tick = below(2) * (below(2000) - 1000.5);
-    const int kind = game.search.underWay() ? 7 + below(4) : below(11);
+    const int kind = game.search.isRunning() ? 7 + below(4) : below(11);
     if (kind < 8) {
       pressed = below(boardCells);
       press(pressed, std::array{left, right, middle}.at(below(3)));

@@ -28,16 +28,16 @@ class Client {
     for (int i = 0; i < window_->childCount(); ++i) all += window_->child(i);
     return all;
   }
-  /// What the client finds at a place of the client area.
+  /// Returns what the client finds at a place of the client area.
   QAccessibleInterface* at(QPoint place) const {
     const QPoint it = window_->rect().topLeft() + place;
     return window_->childAt(it.x(), it.y());
   }
-  /// The sentences spoken since the last call.
+  /// Returns the sentences spoken since the last call.
   QStringList said() { return std::exchange(sentences_, {}); }
-  /// The names of the objects that had an event of this type since the last call.
+  /// Returns the names of the objects that had an event of this type since the last call.
   QStringList notified(QAccessible::Event type) { return std::exchange(events_[type], {}); }
-  /// A name or a state of a visible control that the client has wrong; empty if there is none.
+  /// Returns a name or a state of a visible control that the client has wrong; empty if none.
   QString mistake() const {
     for (auto* it : controls()) {
       const auto [name, wasDisabled] = known_.value(it->object());

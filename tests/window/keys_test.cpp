@@ -8,7 +8,7 @@ struct PressingKey {
   QKeyCombination key;
   const char* text;
   const char* shown;
-  friend void PrintTo(const PressingKey& row, std::ostream* out) { *out << row.name; }
+  friend void PrintTo(const PressingKey& key, std::ostream* out) { *out << key.name; }
 };
 struct PressingKeyTest : WindowTest, testing::WithParamInterface<PressingKey> {};
 
@@ -35,7 +35,7 @@ struct MovingKey {
   int from;
   QKeyCombination key;
   int to;
-  friend void PrintTo(const MovingKey& row, std::ostream* out) { *out << row.name; }
+  friend void PrintTo(const MovingKey& key, std::ostream* out) { *out << key.name; }
 };
 struct MovingKeyTest : WindowTest, testing::WithParamInterface<MovingKey> {};
 

@@ -11,7 +11,7 @@ int main(int argc, char* argv[]) {
   const QTemporaryDir folder;
   const QByteArray home = folder.filePath("home").toUtf8();
   QDir().mkpath(home);
-  for (const char* own : {"HOME", "TMPDIR", "XDG_RUNTIME_DIR"}) qputenv(own, home);
+  for (const char* variable : {"HOME", "TMPDIR", "XDG_RUNTIME_DIR"}) qputenv(variable, home);
   qputenv("CUPS_SERVER", home + "/cups");
   qputenv("LC_ALL", "C.UTF-8");
   // Every zoom fits on the screen, but it is a pixel too low for the game to start with a zoom

@@ -33,7 +33,7 @@ class Picture {
       rect -= QMargins(line, line, line, line);
     }
   }
-  /// The first pixel that differs; empty if there is none.
+  /// Returns the first pixel that differs; empty if there is none.
   QString difference() const {
     // Repainting a part of a large letter blends its edges a little differently.
     const int tolerance = scale_ == 1 ? 0 : 40;
@@ -73,11 +73,11 @@ class Picture {
       painter_.fillRect(edge, ink);
   }
   void write(const QRect& rect, const std::string& text, const platform::Font& font, QColor ink) {
-    QFont own(font.name == "Arial" ? "Liberation Sans" : QApplication::font().family());
+    QFont shownIn(font.name == "Arial" ? "Liberation Sans" : QApplication::font().family());
     const QScreen* screen = QGuiApplication::primaryScreen();
-    own.setPointSizeF(font.points * scale_ * 96 / screen->logicalDotsPerInchY());
-    own.setBold(font.bold);
-    painter_.setFont(own);
+    shownIn.setPointSizeF(font.points * scale_ * 96 / screen->logicalDotsPerInchY());
+    shownIn.setBold(font.bold);
+    painter_.setFont(shownIn);
     painter_.setPen(ink);
     painter_.drawText(rect, Qt::AlignCenter, QString::fromStdString(text));
   }
@@ -129,7 +129,7 @@ class Picture {
 };
 
 struct PictureTest : WindowTest {
-  /// The client area in pixels of the screen.
+  /// Repaints the client area and returns it in pixels of the screen.
   static QImage screen(const QWidget& client) {
     QEvent now(QEvent::UpdateRequest);  // repaints at once
     QApplication::sendEvent(client.window(), &now);
@@ -140,8 +140,8 @@ struct PictureTest : WindowTest {
     image.setDevicePixelRatio(1);
     return image;
   }
-  /// The first pixel at which the screen differs from what the controls describe, with or without
-  /// the focus ring around one of them; empty if there is none.
+  /// Returns the first pixel at which the screen differs from what the controls describe, with or
+  /// without the focus ring around one of them; empty if there is none.
   QString difference(const platform::Form& form, const QWidget& client,
                      const platform::Control* ringed = nullptr) const {
     Picture picture(screen(client), client.devicePixelRatioF() * zoom(), client.palette());

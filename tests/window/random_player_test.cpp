@@ -15,7 +15,7 @@ struct WindowPlayerTest : ClientTest {
 
   int below(qsizetype end) { return static_cast<int>(random() % static_cast<unsigned>(end)); }
   auto anyOf(const auto& list) { return *(std::begin(list) + below(std::ssize(list))); }
-  /// The grid's cell at a place; 0 for none and near edges, where cells overlap.
+  /// Returns the grid's cell at a place; 0 for none and near edges, where cells overlap.
   int cellAt(QPoint place) {
     const int edge = qCeil(3 * zoom());
     const QMargins margins(edge, edge, edge, edge);

@@ -38,7 +38,7 @@ struct Box {
       if (!it->text().isEmpty()) return it;
     return nullptr;
   }
-  /// OK, or Yes.
+  /// Returns OK or Yes.
   QPushButton* firstButton() const { return widget.findChild<QPushButton*>(); }
 };
 
@@ -84,24 +84,26 @@ struct WindowTest : testing::Test {
   Cell& cell(int index) { return game.form.board.GridDisp[index]; }
   QString caption(int index) { return QString::fromStdString(cell(index).caption()); }
   double zoom() const { return qRound(view.width() / 302.4 * 4) / 4.0; }
-  /// The place of a control of the frame, which begins at (60, 60) twips, in the client area.
+  /// Returns the place in the client area of a control of the frame, which begins at (60, 60)
+  /// twips.
   QRect rectOf(const platform::Control& control) const {
     const auto edge = [this](int twips) { return qRound((60 + twips) / 15.0 * zoom()); };
     const auto& [left, top, width, height] = control.place;
     const QPoint end(edge(left + width), edge(top + height));
     return {QPoint(edge(left), edge(top)), end - QPoint(1, 1)};
   }
-  /// The control of the frame that has the focus; null if none.
+  /// Returns the control of the frame that has the focus; null if none.
   const platform::Control* focused() const {
     if (QApplication::focusWidget() == nullptr) return nullptr;
     for (const auto& it : game.form.Frame1.controls) {
-      const auto* control = std::visit([](auto* own) -> platform::Control* { return own; }, it);
+      const auto* control =
+          std::visit([](auto* pointer) -> platform::Control* { return pointer; }, it);
       const QRect place = QApplication::focusWidget()->geometry();
       if (control->Visible() && rectOf(*control) == place) return control;
     }
     return nullptr;
   }
-  /// The cell of the grid that has the focus; 0 if none.
+  /// Returns the cell of the grid that has the focus; 0 if none.
   int focusedCell() {
     int index = gridCells;
     while (index > 0 && &cell(index) != focused()) --index;
