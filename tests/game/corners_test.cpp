@@ -5,7 +5,7 @@ namespace tessoro::test {
 using CornersTest = GameTest;
 
 TEST_F(CornersTest, CorrectCornerShowsAFaceInsteadOfItsTarget) {
-  turnRow(1, "7 - 7 + 1");
+  turn(1, "7 - 7 + 1");
   EXPECT_EQ(corners(), ":) :) 3 8");
 }
 

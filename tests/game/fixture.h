@@ -78,7 +78,7 @@ struct GameTest : testing::Test, Digits {
     nextDigits.erase(0, 1);
     return digit;
   }
-  void failNextSearch(int attempts = 500) {
+  void failAttempts(int attempts) {
     for (nextDigits.clear(); attempts > 0; --attempts) nextDigits += failingDigits;
   }
 
@@ -102,7 +102,6 @@ struct GameTest : testing::Test, Digits {
       if (text != "." && first != except && cell(first).enabled()) turnTo(first, text);
     }
   }
-  void turnRow(int row, const std::string& drawn) { turn((row - 1) * gridSide + 1, drawn); }
   void solveExcept(int left) { turn(1, solution, left); }
   /// Chooses the menu item with this caption.
   void choose(const std::string& text) {

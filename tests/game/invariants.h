@@ -45,9 +45,11 @@ class Invariants {
     const bool moved = pressed != 0 && before.look != now_.look && !before.setting;
     if (!modeIsShown()) return "Buttons, messages and menu fit the mode";
     for (int i = 1; i <= gridCells; ++i) {
-      if (!looksLikeItsKind(i))
-        return "Each cell looks like its kind and is enabled if it can be set";
+      if (!looksLikeItsRole(i))
+        return "Each cell looks like its role and is enabled if it can be set";
     }
+    if (before.puzzle != now_.puzzle && now_.over != now_.setting)
+      return "A new puzzle can be played; one that the player has set is over";
     if (before.puzzle != now_.puzzle && !solutionIsCorrect())
       return "Every line of a solution is true, and it has the corners that were set";
     if (moved && (before.over || !cell(pressed).enabled()))
@@ -58,7 +60,7 @@ class Invariants {
       return "Corners are correct, green and under a face, or wrong, black and beside their "
              "target; "
              "four correct ones end the puzzle";
-    const bool onGrid = pressed != 0 && pressed <= gridCells && kinds[pressed] != '#';
+    const bool onGrid = pressed != 0 && pressed <= gridCells && roleOf(pressed) != CellRole::hole;
     if (onGrid && said.empty()) return "Every press on the grid is followed by a sentence";
     if (onGrid && now_.texts[pressed] != before.texts[pressed] &&
         !said.starts_with(spoken(now_.texts[pressed])))
@@ -70,17 +72,6 @@ class Invariants {
   static std::string look(const Game& game) { return Position(game).look; }
 
  private:
-  /// The kinds of the cells 1..49: '1' number, '+' operator, '=' equals sign, '#' hole, '?' result.
-  static constexpr std::string_view kinds =
-      " "
-      "1+1+1=?"
-      "+#+#+#+"
-      "1+1+1=?"
-      "+#+#+#+"
-      "1+1+1=?"
-      "=#=#=#="
-      "?+?+?=?";
-
   using Texts = std::array<std::string, gridCells + 1>;  ///< what the cells show
 
   struct Position {
@@ -142,18 +133,20 @@ class Invariants {
     return !now_.setting || !form.RightMess.Visible();
   }
 
-  bool looksLikeItsKind(int index) const {
+  bool looksLikeItsRole(int index) const {
     const Cell& it = cell(index);
     const bool corner = cornerOf(index) != 0;
-    const char kind = corner ? '?' : kinds[index];
-    const std::string_view texts = kind == '+' ? "+-*" : kind == '=' ? "=" : "123456789?";
-    const bool shows = it.caption().empty() ? kind != '=' : texts.find(it.caption()) != texts.npos;
-    const unsigned actions = corner || kind == '1' ? 2 : kind == '+' ? 1 : 0;
-    if (it.accessible.actions.size() != actions) return false;
+    const CellRole role = roleOf(index);
+    const bool isNumber = role == CellRole::number, isOperator = role == CellRole::operatorSign;
+    const bool isEquals = role == CellRole::equals;
+    const std::string_view texts = isOperator ? "+-*" : isEquals ? "=" : "123456789?";
+    const bool shows = it.caption().empty() ? !isEquals : texts.find(it.caption()) != texts.npos;
+    const unsigned actions = corner || isNumber ? 2 : isOperator ? 1 : 0;
+    if (!shows || !it.Visible() || it.accessible.actions.size() != actions) return false;
     if (!corner)
-      return shows && it.Visible() && it.enabled() == (kind == '1' || kind == '+') &&
-             it.backcolor() == (kind == '#' ? ColBlack : platform::buttonFace);
-    return shows && it.Visible() && it.enabled() == now_.setting && it.forecolor() == ColWhite &&
+      return it.enabled() == (isNumber || isOperator) &&
+             it.backcolor() == (role == CellRole::hole ? ColBlack : platform::buttonFace);
+    return it.enabled() == now_.setting && it.forecolor() == ColWhite &&
            now_.setting == (it.backcolor() == ColRed);
   }
 
@@ -178,7 +171,8 @@ class Invariants {
       const Cell& target = cell(OuterCornerCells[k]);
       const bool correct = now_.texts[CornerCells[k]] == target.caption();
       if (" " + target.caption() != game_.state.SolNumbers[cornerNumbers[k]] ||
-          target.Visible() == correct || game_.form.board.NPict[k].Visible() != correct ||
+          target.Visible() == correct || target.backcolor() != ColGreen ||
+          target.forecolor() != ColWhite || game_.form.board.NPict[k].Visible() != correct ||
           cell(CornerCells[k]).backcolor() != (correct ? ColGreen : ColBlack))
         return false;
       solved = solved && correct;

@@ -28,6 +28,7 @@ TEST_F(MovesTest, FirstMoveShowsResultsAndTargets) {
             "? . ? . ? = ?\n");
   EXPECT_EQ(corners(), ":) 1 3 8");
   EXPECT_EQ(form.RightMess.caption(), "Get corner numbers right");
+  EXPECT_EQ(lastSaid(), "1, no line has a value yet");
 }
 
 TEST_F(MovesTest, LeftPressCountsUpAndRightPressDown) {

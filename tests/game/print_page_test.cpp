@@ -29,22 +29,17 @@ struct PrintPageTest : GameTest {
   }
 };
 
-TEST_F(PrintPageTest, PrintsThreePuzzlesBesideTheirSolutions) {
-  for (int number = 2; number <= 3; ++number) makePuzzle();
+TEST_F(PrintPageTest, PrintsTheLastThreePuzzlesBesideTheirSolutions) {
+  for (int number = 2; number <= 4; ++number) makePuzzle();
   desktop.answer = platform::Desktop::Answer::yes;
   choose("Print");
+  EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 4, 2, 3 [Yes] [No]");
   const std::string blank = std::string(75, ' ') + "\n";
   const std::string gap = blank + blank + blank;
   EXPECT_EQ(desktop.printed,
-            "\n\n\n\n" + puzzle("1") + gap + puzzle("2") + gap + puzzle("3") + blank);
+            "\n\n\n\n" + puzzle("4") + gap + puzzle("2") + gap + puzzle("3") + blank);
   EXPECT_EQ(desktop.printFont, "Courier 12.000000");
   EXPECT_EQ(desktop.documents, 1);
-}
-
-TEST_F(PrintPageTest, FourthPuzzleReplacesTheFirst) {
-  for (int number = 2; number <= 4; ++number) makePuzzle();
-  choose("Print");
-  EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 4, 2, 3 [Yes] [No]");
 }
 
 }  // namespace tessoro::test

@@ -15,7 +15,7 @@ TEST_F(SpokenTest, WinningMoveIsSaidBeforeTheBox) {
 TEST_F(SpokenTest, ShowSolutionSaysThatThePuzzleIsOver) {
   choose("Show Solution");
   press(17);
-  type(17, 'n');
+  type(form.NewPuz, 'n');
   EXPECT_EQ(desktop.said, (Log{"The solution is shown, and the puzzle is over",
                                "The puzzle is over", "The puzzle is over"}));
 }

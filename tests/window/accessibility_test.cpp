@@ -13,19 +13,6 @@ TEST_F(AccessibilityTest, ActionReturnsBeforeThePressHappens) {
   EXPECT_EQ(caption(17), "");
 }
 
-TEST_F(AccessibilityTest, NumberOffersPressesOfBothButtons) {
-  const QStringList actions = at(cell(17))->actionInterface()->actionNames();
-  EXPECT_EQ(actions, QStringList({"Press", "Decrease", "SetFocus"}));
-}
-
-TEST_F(AccessibilityTest, NewNameOfTheFocusIsNotReadOutBesideTheSentence) {
-  act(cell(17), "SetFocus");
-  client.notified(QAccessible::Focus);
-  act(cell(17), "Press");
-  const auto silent = qt::hasAnnouncements ? QAccessible::Focus : QAccessible::NameChanged;
-  EXPECT_EQ(client.notified(silent).filter("row 3 column 3"), QStringList("1, row 3 column 3"));
-}
-
 TEST_F(AccessibilityTest, FocusIsReportedAgainAfterAMenuCommand) {
   act(cell(7), "SetFocus");
   client.notified(QAccessible::Focus);

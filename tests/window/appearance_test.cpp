@@ -14,6 +14,14 @@ TEST_F(AppearanceTest, ControlsLookAsTheyDescribeThemselves) {
   EXPECT_EQ(difference(), "");
 }
 
+TEST_F(AppearanceTest, NothingBesideTheGridCoversACell) {
+  for (int i = 1; i <= gridCells; ++i) {
+    const QRect rect = rectOf(cell(i)) - QMargins(2, 2, 2, 2);  // borders overlap
+    for (const int target : {50, 51, 52, 53}) EXPECT_FALSE(rect.intersects(rectOf(cell(target))));
+    EXPECT_FALSE(rect.intersects(rectOf(game.form.RightMess)));
+  }
+}
+
 TEST_F(AppearanceTest, BordersStandOutInAThemeWithFaintOnes) {
   QPalette theme{QColor(0x9390ec)};
   theme.setColor(QPalette::Light, 0x9592ee);

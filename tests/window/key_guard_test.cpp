@@ -49,12 +49,4 @@ TEST_F(KeyGuardTest, BoxIgnoresAKeyWhileAnotherIsHeldSinceBefore) {
   }));
 }
 
-TEST_F(KeyGuardTest, KeyWithoutAReleaseCountsAsHeldForOneSecond) {
-  press(Qt::Key_J);
-  EXPECT_FALSE(boxStaysOpen([&] {
-    time += 1000;
-    tap(Qt::Key_Return);
-  }));
-}
-
 }  // namespace tessoro::test

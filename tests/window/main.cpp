@@ -14,8 +14,7 @@ int main(int argc, char* argv[]) {
   for (const char* variable : {"HOME", "TMPDIR", "XDG_RUNTIME_DIR"}) qputenv(variable, home);
   qputenv("CUPS_SERVER", home + "/cups");
   qputenv("LC_ALL", "C.UTF-8");
-  // Every zoom fits on the screen, but it is a pixel too low for the game to start with a zoom
-  // of 2.
+  // The screen is a pixel too low for the game to start with a zoom of 2.
   QFile screen(folder.filePath("screen"));
   if (!screen.open(QIODevice::WriteOnly)) qFatal("Cannot write the screen's configuration.");
   screen.write(R"({"screens": [{"width": 2000, "height": 1799}]})");

@@ -22,13 +22,11 @@ TEST_F(MessageBoxTest, WinningMoveIsReadWithTheBoxAndNotSeparately) {
     read = box.label()->accessibleName();
     box.firstButton()->click();
   };
-  for (int k = 1; k <= 16 && boxes.isEmpty(); ++k) {
-    cell(numberCells[k]).SetFocus();
-    type(QString::fromStdString(game.state.SolNumbers[k]).trimmed());
-    cell(operatorCells[k]).SetFocus();
-    said();
-    type(QString::fromStdString(game.state.SolOperators[k]));
-  }
+  game.solutionDisplay.ShowSolution();
+  cell(33).SetFocus();
+  type("1");
+  said();
+  type("2");
   EXPECT_TRUE(read.endsWith("bottom right is correct. You got it !")) << read.toStdString();
   EXPECT_EQ(said(), QStringList());
 }
@@ -41,13 +39,6 @@ TEST_F(MessageBoxTest, ClientCannotUseTheWindowBehindIt) {
   });
   EXPECT_EQ(caption(17), "");
   EXPECT_FALSE(game.state.SolveMode);
-}
-
-TEST_F(MessageBoxTest, OpensAfterAScreenReaderHasNoticedTheKey) {
-  bool isOpen = true;
-  QTimer::singleShot(50, [&] { isOpen = QApplication::activeModalWidget() != nullptr; });  // ms
-  desktop.messageBox("Well ?", Buttons::ok);
-  EXPECT_FALSE(isOpen);
 }
 
 }  // namespace tessoro::test

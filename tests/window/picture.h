@@ -129,10 +129,13 @@ class Picture {
 };
 
 struct PictureTest : WindowTest {
+  static void repaint(QWidget* window) {
+    QEvent now(QEvent::UpdateRequest);
+    QApplication::sendEvent(window, &now);
+  }
   /// Repaints the client area and returns it in pixels of the screen.
   static QImage screen(const QWidget& client) {
-    QEvent now(QEvent::UpdateRequest);  // repaints at once
-    QApplication::sendEvent(client.window(), &now);
+    repaint(client.window());
     const auto& all = dynamic_cast<QImage&>(*client.backingStore()->paintDevice());
     const double scale = client.devicePixelRatioF();
     const QPoint origin = client.mapTo(client.window(), QPoint()) * scale;

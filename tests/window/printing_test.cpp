@@ -15,6 +15,7 @@ struct PrintTest : WindowTest {
     QDir::setCurrent(folder.path());
     onBox = [this](Box box) {
       EXPECT_EQ(box.widget.windowModality(), Qt::WindowModal);
+      EXPECT_EQ(box.widget.parentWidget(), &window);
       if (auto* dialog = dynamic_cast<QFileDialog*>(&box.widget)) return answer(*dialog);
       for (auto* it : box.widget.findChildren<QPushButton*>())
         if (it->isDefault() || it->text() == "Cancel") return it->click();
@@ -44,6 +45,13 @@ struct PrintTest : WindowTest {
     process.waitForFinished();
     return process.readAllStandardOutput();
   }
+  /// Returns where the PDF file shows a word, in points.
+  static QPointF pointOf(const QString& word) {
+    static const QString place = R"re(xMin="(.*)" yMin="(.*)" xMax.*>)re";
+    const QRegularExpressionMatch found =
+        QRegularExpression(place + word).match(output("pdftotext", {"-bbox", "saved.pdf", "-"}));
+    return {found.captured(1).toDouble(), found.captured(2).toDouble()};
+  }
   void expectThePage(const QString& file, const QString& paper) const {
     QString page;
     for (const auto& line : game.page.PrintLines) page += QString::fromStdString(line) + ' ';
@@ -61,6 +69,18 @@ TEST_F(PrintTest, SavesThePageAndNoOtherFile) {
   QDirIterator all(".", QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
   while (all.hasNext()) files += all.next();
   EXPECT_EQ(files, QStringList("./saved.pdf"));
+}
+
+TEST_F(PrintTest, PageIsCentredAtTenCharactersAndSixLinesPerInch) {
+  print("saved");
+  const QPointF heading = pointOf("Puzzle");  // character 6 of 75 in line 5 of 59
+  EXPECT_NEAR(heading.x(), 63.5, 0.5) << "of 595 points";
+  EXPECT_NEAR(heading.y(), 115, 0.5) << "of 842 points";
+}
+
+TEST_F(PrintTest, FailureToSaveIsReported) {
+  EXPECT_EQ(print("/proc/saved").last(),
+            "The page could not be saved there. You can print it again.");
 }
 
 TEST_F(PrintTest, ExistingFileIsKeptByDefault) {

@@ -20,8 +20,8 @@ TEST_F(WindowTest, MenuHasItsCommandsInGroups) {
                                "About", "---", "Exit"}));
 }
 
-TEST_F(WindowTest, HasTheGamesIcon) {
-  EXPECT_EQ(window.windowIcon().actualSize({200, 200}), QSize(128, 128));
+TEST_F(WindowTest, HasTheGamesIconInThreeSizes) {
+  EXPECT_EQ(window.windowIcon().availableSizes(), QList({QSize(32, 32), {64, 64}, {128, 128}}));
 }
 
 TEST_F(WindowTest, ClosingItUnloadsTheForm) {
@@ -32,10 +32,12 @@ TEST_F(WindowTest, ClosingItUnloadsTheForm) {
 }
 
 TEST_F(WindowTest, BoardStaysAtTheTopLeftIfTheDesktopMaximisesIt) {
-  for (int attempts = 0; attempts < 2; ++attempts) {  // the window undoes the first attempt
-    window.windowHandle()->setWindowStates(Qt::WindowMaximized);
-    settle();
-  }
+  const QSize size = window.size();
+  window.windowHandle()->setWindowStates(Qt::WindowMaximized);
+  settle();
+  EXPECT_EQ(window.maximumSize(), size) << "The window undoes the first attempt";
+  window.windowHandle()->setWindowStates(Qt::WindowMaximized);
+  settle();
   EXPECT_GT(window.width(), 1000);
   EXPECT_EQ(view.pos(), window.menuBar()->geometry().bottomLeft() + QPoint(0, 1));
 }
