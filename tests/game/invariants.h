@@ -50,6 +50,9 @@ class Invariants {
     }
     if (before.puzzle != now_.puzzle && now_.over != now_.setting)
       return "A new puzzle can be played; one that the player has set is over";
+    const bool isNew = before.puzzle != now_.puzzle && !now_.setting;
+    if ((isNew || said.starts_with("Cannot Solve")) && !isEmptyBetweenCorners())
+      return "A new puzzle and a failed search show nothing but corners";
     if (before.puzzle != now_.puzzle && !solutionIsCorrect())
       return "Every line of a solution is true, and it has the corners that were set";
     if (moved && (before.over || !cell(pressed).enabled()))
@@ -133,6 +136,12 @@ class Invariants {
     return !now_.setting || !form.RightMess.Visible();
   }
 
+  bool isEmptyBetweenCorners() const {
+    for (int i = 1; i <= gridCells; ++i) {
+      if (cornerOf(i) == 0 && !now_.texts[i].empty() && now_.texts[i] != "=") return false;
+    }
+    return true;
+  }
   bool looksLikeItsRole(int index) const {
     const Cell& it = cell(index);
     const bool corner = cornerOf(index) != 0;

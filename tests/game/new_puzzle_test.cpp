@@ -4,19 +4,12 @@ namespace tessoro::test {
 
 using NewPuzzleTest = GameTest;
 
-TEST_F(NewPuzzleTest, ShowsOnlyTheCorners) {
-  solveExcept(33);
-  nextDigits = solutionDigits;
-  click(form.NewPuz);
-  EXPECT_EQ(grid(),
-            "7 . . . . = 1\n"
-            ". # . # . # .\n"
-            ". . . . . = .\n"
-            ". # . # . # .\n"
-            ". . . . . = .\n"
-            "= # = # = # =\n"
-            "3 . . . . = 8\n");
-  EXPECT_EQ(corners(), ". . . .");
+TEST_F(NewPuzzleTest, NeedsALeftPressAndAReleaseOnTheButton) {
+  form.NewPuz.press({});
+  form.NewPuz.release(platform::MouseButton::left, false);
+  form.NewPuz.press({.button = platform::MouseButton::right});
+  form.NewPuz.release(platform::MouseButton::right, true);
+  EXPECT_EQ(form.caption(), "Puzzle Number  1");
 }
 
 TEST_F(NewPuzzleTest, NumberInTheTitleStartsAgainAt1AfterTheLargest) {

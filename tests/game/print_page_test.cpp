@@ -29,6 +29,11 @@ struct PrintPageTest : GameTest {
   }
 };
 
+TEST_F(PrintPageTest, AsksAboutTheOnlyPuzzle) {
+  choose("Print");
+  EXPECT_EQ(lastSaid(), "Print Puzzle No(s): 1 [Yes] [No]");
+}
+
 TEST_F(PrintPageTest, PrintsTheLastThreePuzzlesBesideTheirSolutions) {
   for (int number = 2; number <= 4; ++number) makePuzzle();
   desktop.answer = platform::Desktop::Answer::yes;

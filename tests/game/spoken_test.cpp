@@ -20,6 +20,11 @@ TEST_F(SpokenTest, ShowSolutionSaysThatThePuzzleIsOver) {
                                "The puzzle is over", "The puzzle is over"}));
 }
 
+TEST_F(SpokenTest, CornerOfANewPuzzleIsReadAsATarget) {
+  type(1, 'c');
+  EXPECT_EQ(lastSaid(), "Column 1: 7 empty empty empty empty, no value, target 3");
+}
+
 /// A key typed in the middle of a puzzle, and the sentence that follows:
 ///
 ///     7 - 7 + 1 = 1

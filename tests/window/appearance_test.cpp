@@ -14,6 +14,13 @@ TEST_F(AppearanceTest, ControlsLookAsTheyDescribeThemselves) {
   EXPECT_EQ(difference(), "");
 }
 
+TEST_F(AppearanceTest, FacesLieOverTheTargets) {
+  for (int k = 1; k <= 4; ++k) {
+    const QPoint target = rectOf(cell(OuterCornerCells[k])).center();
+    EXPECT_TRUE(rectOf(game.form.board.NPict[k]).contains(target)) << k;
+  }
+}
+
 TEST_F(AppearanceTest, NothingBesideTheGridCoversACell) {
   for (int i = 1; i <= gridCells; ++i) {
     const QRect rect = rectOf(cell(i)) - QMargins(2, 2, 2, 2);  // borders overlap

@@ -14,7 +14,6 @@ struct HelpTest : ClientTest {
   int scrolled() const { return text->verticalScrollBar()->value(); }
   void followTheFirstLink() {
     tap(Qt::Key_Tab);
-    said();
     tap(Qt::Key_Return);
   }
   QToolButton* tool(const QString& name) const {
@@ -28,12 +27,6 @@ TEST_F(HelpTest, OpeningItReadsItsTitleAndKeys) {
   EXPECT_EQ(help->windowTitle(), "Tessoro Help");
   EXPECT_EQ(said(), QStringList("Tessoro. Arrow keys move through the text, Tab moves to links, "
                                 "Escape closes the help"));
-}
-
-TEST_F(HelpTest, TabReadsTheNextLink) {
-  said();
-  tap(Qt::Key_Tab);
-  EXPECT_EQ(said(), QStringList("the keys, link"));
 }
 
 TEST_F(HelpTest, BackReturnsToTheTop) {
@@ -50,10 +43,11 @@ TEST_F(HelpTest, ContentsReturnsToTheTopForGood) {
   EXPECT_FALSE(tool("Back")->isEnabled());
 }
 
-TEST_F(HelpTest, ReturnFollowsTheLinkAndReadsItsTarget) {
+TEST_F(HelpTest, TabReadsALinkAndReturnItsTarget) {
   const int before = scrolled();
   followTheFirstLink();
-  EXPECT_EQ(said(), QStringList("Playing with the keys or a screen reader"));
+  EXPECT_EQ(said().mid(1),
+            QStringList({"the keys, link", "Playing with the keys or a screen reader"}));
   EXPECT_GT(scrolled(), before);
 }
 

@@ -33,14 +33,6 @@ TEST_F(KeyGuardTest, BoxIgnoresKeysForHalfASecond) {
   EXPECT_TRUE(boxStaysOpen([&] { tap(Qt::Key_Return); }));
 }
 
-TEST_F(KeyGuardTest, BoxIgnoresAKeyHeldSinceBefore) {
-  press(Qt::Key_Return);
-  EXPECT_TRUE(boxStaysOpen([&] {
-    waitUntilBoxAcceptsKeys();
-    repeat(Qt::Key_Return);
-  }));
-}
-
 TEST_F(KeyGuardTest, BoxIgnoresAKeyWhileAnotherIsHeldSinceBefore) {
   press(Qt::Key_J);
   EXPECT_TRUE(boxStaysOpen([&] {

@@ -9,13 +9,6 @@ TEST_F(MouseTest, ClickOnNewPuzzleMakesOne) {
   EXPECT_EQ(window.windowTitle(), "Puzzle Number  2");
 }
 
-TEST_F(MouseTest, ReleaseElsewhereIsNoClick) {
-  const QPoint button = view.mapTo(&window, rectOf(game.form.NewPuz).center());
-  QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, button);
-  QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, button - QPoint(0, 100));
-  EXPECT_EQ(window.windowTitle(), "Puzzle Number  1");
-}
-
 TEST_F(MouseTest, ChangedCellRedrawsLittleElse) {
   repaint(&window);
   const long before = view.drawnControls();

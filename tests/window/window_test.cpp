@@ -12,6 +12,7 @@ TEST_F(WindowTest, ControlsCanChangeAfterItCloses) {
 }
 
 TEST_F(WindowTest, MenuHasItsCommandsInGroups) {
+  EXPECT_EQ(window.menuBar()->actions().first()->text(), "Puzzle");
   QStringList menu;
   for (const QAction* it : window.findChild<QMenu*>()->actions())
     menu += it->isSeparator() ? "---" : it->text();
