@@ -35,7 +35,6 @@ struct RandomPlayerTest : GameTest {
   }
 };
 
-/// To repeat a game, set TESSORO_SEED to the seed that it printed.
 TEST_F(RandomPlayerTest, NoRuleIsEverBroken) {
   const char* last = std::getenv("TESSORO_SEED");
   const auto seed = last == nullptr ? std::random_device{}() : std::stoul(last);

@@ -29,12 +29,15 @@ TEST_F(SettingAPuzzleTest, AnyPressEnablesSolvePuzzleAgain) {
 }
 
 TEST_F(SettingAPuzzleTest, SearchGivesUpAfter500Attempts) {
+  setCorners("7138");
+  click(form.Solveit);
   setCorners("1439");
   failAttempts(501);
   click(form.Solveit);
   EXPECT_EQ(lastSaid(), "Cannot Solve This Time ! [OK]");
   EXPECT_EQ(nextDigits, failingDigits) << "left for a 501st attempt";
-  EXPECT_EQ(game.state.PuzzleNo, 1) << "a failed search uses no number";
+  EXPECT_EQ(game.state.PuzzleNo, 2) << "a failed search uses no number";
+  EXPECT_EQ(caption(17), "") << "of the solution before";
 }
 
 TEST_F(SettingAPuzzleTest, EndComputerSolutionModeReturnsToPlay) {
