@@ -27,8 +27,10 @@ TEST_F(KeyCommandsTest, ShiftNGoesFromSolvePuzzleToTheLastUnsetCorner) {
 }
 
 TEST_F(KeyCommandsTest, ButtonHasNoRowAndCannotBeSet) {
-  for (const char character : {'r', 'c', '5'}) type(form.NewPuz, character);
-  EXPECT_EQ(desktop.said, Log{"This button cannot be set"});
+  for (const Cell* button : {&form.NewPuz, &form.Solveit}) {
+    for (const char character : {'r', 'c', '5'}) type(*button, character);
+  }
+  EXPECT_EQ(desktop.said, (Log{"This button cannot be set", "This button cannot be set"}));
 }
 
 /// A screen reader can give the focus to the targets beside the grid.

@@ -16,6 +16,7 @@ TEST_F(NewPuzzleTest, NumberInTheTitleStartsAgainAt1AfterTheLargest) {
   game.state.PuzzleNo = 32766;
   click(form.NewPuz);
   EXPECT_EQ(form.caption(), "Puzzle Number  32767");
+  EXPECT_TRUE(lastSaid().starts_with("Puzzle 32767. Corners: top left")) << lastSaid();
   click(form.NewPuz);
   EXPECT_EQ(form.caption(), "Puzzle Number  1");
 }
