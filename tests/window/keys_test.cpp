@@ -8,7 +8,7 @@ struct PressingKey {
   QKeyCombination key;
   const char* text;
   const char* shown;
-  friend void PrintTo(const PressingKey& key, std::ostream* out) { *out << key.name; }
+  friend void PrintTo(const PressingKey& it, std::ostream* out) { *out << it.name; }
 };
 struct PressingKeyTest : WindowTest, testing::WithParamInterface<PressingKey> {};
 
@@ -35,7 +35,7 @@ struct MovingKey {
   int from;
   QKeyCombination key;
   int to;
-  friend void PrintTo(const MovingKey& key, std::ostream* out) { *out << key.name; }
+  friend void PrintTo(const MovingKey& it, std::ostream* out) { *out << it.name; }
 };
 struct MovingKeyTest : WindowTest, testing::WithParamInterface<MovingKey> {};
 
@@ -68,7 +68,7 @@ TEST_F(KeysTest, TabAndUpReturnFromTheButtonToTheCell) {
     cell(17).SetFocus();
     tap(Qt::Key_Tab);
     tap(back);
-    EXPECT_EQ(focusedCell(), 17) << "after " << back;
+    EXPECT_EQ(focusedCell(), 17) << "after " << QDebug::toString(back).toStdString();
   }
 }
 
@@ -81,7 +81,8 @@ TEST_F(KeysTest, ButtonThatAppearsInAnothersPlaceGetsItsFocus) {
 TEST_F(KeysTest, MenuKeysOpenTheMenuAndEscapeReturnsToTheCell) {
   for (const auto menuKey : {Qt::Key_F10, Qt::Key_Alt}) {
     tap(menuKey);
-    EXPECT_EQ(selectedItem(), "Start a Solution") << "after " << menuKey;
+    EXPECT_EQ(selectedItem(), "Start a Solution")
+        << "after " << QDebug::toString(menuKey).toStdString();
     tap(Qt::Key_Escape);
     EXPECT_EQ(selectedItem(), "");
     EXPECT_EQ(difference(&cell(1)), "");
