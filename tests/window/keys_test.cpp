@@ -56,10 +56,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::PrintToStringParamName());
 
 struct KeysTest : PictureTest {
-  /// Returns the selected menu item; empty while the menu is closed.
+  /// Returns the selected menu item; empty if there is none.
   static QString selectedItem() {
     const auto* popup = dynamic_cast<QMenu*>(QApplication::activePopupWidget());
-    return popup == nullptr ? "" : popup->activeAction()->text();
+    const QAction* selected = popup == nullptr ? nullptr : popup->activeAction();
+    return selected == nullptr ? "" : selected->text();
   }
 };
 
@@ -68,7 +69,7 @@ TEST_F(KeysTest, TabAndUpReturnFromTheButtonToTheCell) {
     cell(17).SetFocus();
     tap(Qt::Key_Tab);
     tap(back);
-    EXPECT_EQ(focusedCell(), 17) << "after " << QDebug::toString(back).toStdString();
+    EXPECT_EQ(focusedCell(), 17) << QDebug::toString(back).toStdString();
   }
 }
 
@@ -79,10 +80,9 @@ TEST_F(KeysTest, ButtonThatAppearsInAnothersPlaceGetsItsFocus) {
 }
 
 TEST_F(KeysTest, MenuKeysOpenTheMenuAndEscapeReturnsToTheCell) {
-  for (const auto menuKey : {Qt::Key_F10, Qt::Key_Alt}) {
-    tap(menuKey);
-    EXPECT_EQ(selectedItem(), "Start a Solution")
-        << "after " << QDebug::toString(menuKey).toStdString();
+  for (const auto key : {Qt::Key_F10, Qt::Key_Alt}) {
+    tap(key);
+    EXPECT_EQ(selectedItem(), "Start a Solution") << QDebug::toString(key).toStdString();
     tap(Qt::Key_Escape);
     EXPECT_EQ(selectedItem(), "");
     EXPECT_EQ(difference(&cell(1)), "");
