@@ -59,8 +59,7 @@ class Invariants {
     if (moved && !resultsFit(pressed))
       return "After a move each result shows and says the value of its line";
     if (moved && !cornersFit())
-      return "Corners are correct, green and under a face, or wrong, black and beside their "
-             "target; "
+      return "A correct corner is green and has a face, a wrong one is black and has its target; "
              "four correct ones end the puzzle";
     const bool onGrid = pressed != 0 && pressed <= gridCells && roleOf(pressed) != CellRole::hole;
     if (onGrid && said.empty()) return "Every press on the grid is followed by a sentence";
@@ -75,7 +74,6 @@ class Invariants {
 
  private:
   using Texts = std::array<std::string, gridCells + 1>;  ///< what the cells show
-
   struct Position {
     explicit Position(const Game& game)
         : setting(game.state.SolveMode),
@@ -103,12 +101,10 @@ class Invariants {
   Position now_{game_};
 
   const Cell& cell(int index) const { return game_.form.board.GridDisp[index]; }
-
   static int apply(int left, const std::string& op, int right) {
     return op == "+" ? left + right : op == "-" ? left - right : left * right;
   }
-  /// Returns the spoken result of the line with this first cell, calculated without the code under
-  /// test.
+  /// Returns a line's result in words, calculated independently of the game.
   static std::string resultOf(const Texts& texts, int first, int step) {
     const auto text = [&](int place) { return texts[first + place * step]; };
     for (const int place : {0, 1, 2, 3, 4}) {
@@ -125,7 +121,6 @@ class Invariants {
   bool showsAndSays(int index, const std::string& result) const {
     return shows(index, result) && spokenCell(game_.form.board, index) == result;
   }
-
   bool modeIsShown() const {
     const Form1& form = game_.form;
     for (const bool inPlay : {form.NewPuz.Visible(), form.StartSolx.enabled(),
@@ -134,7 +129,6 @@ class Invariants {
       if (inPlay == now_.setting) return false;
     return !now_.setting || !form.RightMess.Visible();
   }
-
   bool isEmptyBetweenCorners() const {
     for (int i = 1; i <= gridCells; ++i) {
       if (cornerOf(i) == 0 && !now_.texts[i].empty() && now_.texts[i] != "=") return false;
@@ -157,7 +151,6 @@ class Invariants {
     return it.enabled() == now_.setting && it.forecolor() == ColWhite &&
            now_.setting == (it.backcolor() == ColRed);
   }
-
   bool resultsFit(int pressed) const {
     bool known = true;
     for (const int i : {1, 3, 5}) {
@@ -171,7 +164,6 @@ class Invariants {
     const bool ofRow7 = pressed == 44 || pressed == 46;
     return shows(49, known || ofRow7 ? resultOf(now_.texts, 43, 1) : "no value");
   }
-
   bool cornersFit() const {
     if (!game_.search.SolveFound()) return true;
     bool solved = true;
@@ -187,7 +179,6 @@ class Invariants {
     }
     return now_.over == solved && game_.form.RightMess.Visible() == !solved;
   }
-
   bool solutionIsCorrect() const {
     Texts solved;
     for (int k = 1; k <= 16; ++k) {
