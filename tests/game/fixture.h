@@ -32,7 +32,9 @@ struct FakeDesktop final : platform::Desktop, platform::Printer, platform::HelpV
   void printLine(std::string_view text) override { printed += std::string(text) + "\n"; }
   void endDocument() override { ++documents; }
   platform::HelpViewer& helpViewer() override { return *this; }
-  bool WinHelpA(const platform::Form&, std::string_view, unsigned, unsigned) override { return {}; }
+  bool WinHelpA(const platform::Form&, std::string_view, unsigned, unsigned) override {
+    return true;
+  }
   [[noreturn]] void endProgram() override { throw ProgramEnded{}; }
 
   Log said;  ///< what a screen reader speaks: sentences, and boxes as "You got it ! [OK]"
